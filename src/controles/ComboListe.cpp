@@ -1,0 +1,104 @@
+#include "controles/ComboListe.h"
+
+#include <algorithm>
+
+#include <QListView>
+
+#include "data/Texte1252.h"
+#include "plateforme/ErreurExecution.h"
+
+namespace gastrelle {
+
+ComboListe::ComboListe(const QString& nom, Ordre ordre, QWidget* parent)
+    : QComboBox(parent), modele_(ordre) {
+  constexpr int lettresAuMoins = 12;
+  setObjectName(nom);
+  auto* vue = new QListView(this);
+  vue->setUniformItemSizes(true);
+  setView(vue);
+  setModel(&modele_);
+  setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
+  setMinimumContentsLength(lettresAuMoins);
+  connect(this, &QComboBox::activated, this, [this] {
+    if (surChoix) {
+      surChoix();
+    }
+  });
+}
+
+void ComboListe::Choisit(int indice) {
+  if (indice < 0 || indice >= count()) {
+    return;
+  }
+  Montre(indice);
+  if (surChoix) {
+    surChoix();
+  }
+}
+
+int ComboListe::IndiceDe(std::int32_t donnee) const {
+  const std::optional<int> indice = modele_.IndiceDe(donnee);
+  if (!indice) {
+    throw ErreurExecution(Panne::fichierIntrouvable);
+  }
+  return *indice;
+}
+
+void ComboListe::ChoisitDonnee(std::int32_t donnee) {
+  Choisit(IndiceDe(donnee));
+}
+
+bool ComboListe::ContientTexte(std::string_view texte) const {
+  const std::string cherche = Majuscules(Rogne(texte));
+  return std::any_of(entrees().begin(), entrees().end(), [&](const EntreeListe& entree) {
+    return Majuscules(Rogne(entree.texte)) == cherche;
+  });
+}
+
+bool ComboListe::AutreContientTexte(std::string_view texte) const {
+  const std::string cherche = Majuscules(Rogne(texte));
+  for (int i = 0; i < count(); ++i) {
+    const EntreeListe& entree = entrees()[static_cast<std::size_t>(i)];
+    if (i != currentIndex() && Majuscules(Rogne(entree.texte)) == cherche) {
+      return true;
+    }
+  }
+  return false;
+}
+
+void ComboListe::Montre(int indice) {
+  setCurrentIndex(indice);
+}
+
+void ComboListe::Ajoute(Liste nouvelles) {
+  modele_.Ajoute(std::move(nouvelles));
+  setCurrentIndex(-1);
+}
+
+int ComboListe::Ajoute(const EntreeListe& entree) {
+  const bool sansChoix = currentIndex() < 0;
+  const int indice = modele_.Ajoute(entree);
+  if (sansChoix) {
+    setCurrentIndex(-1);  // the toolkit chooses the first entry of a list that was empty
+  }
+  return indice;
+}
+
+void ComboListe::Vide() {
+  modele_.Vide();
+  setCurrentIndex(-1);
+}
+
+std::int32_t ComboListe::Donnee() const {
+  if (currentIndex() < 0) {
+    throw ErreurExecution(Panne::appelIncorrect);
+  }
+  return entrees()[static_cast<std::size_t>(currentIndex())].donnee;
+}
+
+std::string ComboListe::Texte() const {
+  return currentIndex() < 0 ? std::string{}
+                            : entrees()[static_cast<std::size_t>(currentIndex())].texte;
+}
+
+}  // namespace gastrelle

@@ -1,0 +1,49 @@
+// A drop-down list that accepts no typing, over the one list model.
+#pragma once
+
+#include <functional>
+
+#include <QComboBox>
+
+#include "controles/ModeleListe.h"
+
+namespace gastrelle {
+
+class ComboListe final : public QComboBox {
+ public:
+  ComboListe(const QString& nom, Ordre ordre, QWidget* parent = nullptr);
+
+  /// Runs at every choice, the user's and the program's, also when the same entry is chosen again.
+  std::function<void()> surChoix;
+
+  /// Chooses an entry from code and fires `surChoix`. An index outside the list chooses nothing.
+  void Choisit(int indice);
+  /// Chooses the entry that bears `donnee`; raises error 53 if none does.
+  void ChoisitDonnee(std::int32_t donnee);
+  /// Chooses without firing: for lists whose choice has no event.
+  void Montre(int indice);
+
+  void Ajoute(Liste nouvelles);
+  int Ajoute(const EntreeListe& entree);
+  void Vide();
+
+  [[nodiscard]] const Liste& entrees() const { return modele_.entrees(); }
+  [[nodiscard]] ModeleListe& modele() { return modele_; }
+
+  /// Index of the first entry that bears `donnee`; raises error 53 if none does.
+  [[nodiscard]] int IndiceDe(std::int32_t donnee) const;
+  /// True if an entry reads like `texte`, case ignored, both trimmed.
+  [[nodiscard]] bool ContientTexte(std::string_view texte) const;
+  /// The same among the entries that aren't chosen.
+  [[nodiscard]] bool AutreContientTexte(std::string_view texte) const;
+
+  /// Item data of the chosen entry; a failure when there is none.
+  [[nodiscard]] std::int32_t Donnee() const;
+  /// Text of the chosen entry, Windows-1252; empty when there is none.
+  [[nodiscard]] std::string Texte() const;
+
+ private:
+  ModeleListe modele_;
+};
+
+}  // namespace gastrelle

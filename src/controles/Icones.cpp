@@ -1,0 +1,85 @@
+#include "controles/Icones.h"
+
+#include <algorithm>
+#include <array>
+
+#include <QFile>
+#include <QIconEngine>
+#include <QPainter>
+#include <QResource>
+
+namespace gastrelle {
+namespace {
+
+constexpr std::array tailles{16, 24, 32, 48, 64, 96, 192};
+
+QString Fichier(const QString& nom, int taille) {
+  return QStringLiteral(":/icones/%1-%2.png").arg(nom).arg(taille);
+}
+
+/// Reads a picture when it is drawn first, and only in the size that is drawn:
+/// a toolkit icon would unpack every size of every button at the start.
+class MoteurIcone final : public QIconEngine {
+ public:
+  explicit MoteurIcone(QString nom) : nom_(std::move(nom)) {}
+
+  [[nodiscard]] QIconEngine* clone() const override { return new MoteurIcone(*this); }
+  [[nodiscard]] QString key() const override { return QStringLiteral("MoteurIcone"); }
+  QList<QSize> availableSizes(QIcon::Mode /*mode*/, QIcon::State /*etat*/) override {
+    QList<QSize> presentes;
+    for (const int taille : tailles) {
+      if (QFile::exists(Fichier(nom_, taille))) {
+        presentes.append(QSize(taille, taille));
+      }
+    }
+    return presentes;
+  }
+
+  QSize actualSize(const QSize& voulue, QIcon::Mode mode, QIcon::State etat) override {
+    return Lue(voulue).actualSize(voulue, mode, etat);
+  }
+  QPixmap pixmap(const QSize& voulue, QIcon::Mode mode, QIcon::State etat) override {
+    return Lue(voulue).pixmap(voulue, 1.0, mode, etat);
+  }
+  void paint(QPainter* peintre, const QRect& ou, QIcon::Mode mode, QIcon::State etat) override {
+    const qreal densite = peintre->device()->devicePixelRatio();
+    QPixmap image = pixmap((QSizeF(ou.size()) * densite).toSize(), mode, etat);
+    image.setDevicePixelRatio(densite);
+    peintre->drawPixmap(ou, image);
+  }
+
+ private:
+  /// The icon with the picture for that size in it: the smallest one that is
+  /// large enough.
+  const QIcon& Lue(const QSize& voulue) {
+    const int cote = std::max(voulue.width(), voulue.height());
+    const auto assez = std::find_if(tailles.begin(), tailles.end(), [&](int taille) {
+      return taille >= cote && QFile::exists(Fichier(nom_, taille));
+    });
+    const int taille = assez != tailles.end() ? *assez : tailles.back();
+    if (!lues_.contains(taille)) {
+      lues_.append(taille);
+      // The format is told, so that no reader or icon engine is looked for.
+      const QByteArray octets = QResource(Fichier(nom_, taille)).uncompressedData();
+      QPixmap image;
+      image.loadFromData(octets, "PNG");
+      icone_.addPixmap(image);
+    }
+    return icone_;
+  }
+
+  QString nom_;
+  QList<int> lues_;
+  QIcon icone_;
+};
+
+}  // namespace
+
+QIcon IconeDe(const QString& nom) {
+  const bool presente = std::any_of(tailles.begin(), tailles.end(), [&](int taille) {
+    return QFile::exists(Fichier(nom, taille));
+  });
+  return presente ? QIcon(new MoteurIcone(nom)) : QIcon();
+}
+
+}  // namespace gastrelle

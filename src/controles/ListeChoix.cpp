@@ -1,0 +1,40 @@
+#include "controles/ListeChoix.h"
+
+#include "plateforme/ErreurExecution.h"
+
+namespace gastrelle {
+
+ListeChoix::ListeChoix(const QString& nom, Ordre ordre, QWidget* parent)
+    : QListView(parent), modele_(ordre) {
+  setObjectName(nom);
+  setUniformItemSizes(true);
+  setEditTriggers(NoEditTriggers);
+  setModel(&modele_);
+  connect(this, &QAbstractItemView::doubleClicked, this, [this] {
+    if (surDoubleClic) {
+      surDoubleClic();
+    }
+  });
+}
+
+void ListeChoix::Choisit(int indice) {
+  if (indice >= 0 && indice < modele_.rowCount()) {
+    setCurrentIndex(modele_.index(indice));
+  }
+}
+
+std::int32_t ListeChoix::Donnee() const {
+  if (indice() < 0) {
+    throw ErreurExecution(Panne::appelIncorrect);
+  }
+  return entrees()[static_cast<std::size_t>(indice())].donnee;
+}
+
+void ListeChoix::currentChanged(const QModelIndex& courant, const QModelIndex& precedent) {
+  QListView::currentChanged(courant, precedent);
+  if (courant.isValid() && surChoix) {
+    surChoix();
+  }
+}
+
+}  // namespace gastrelle

@@ -1,0 +1,40 @@
+// A list box of one choice, over the one list model.
+#pragma once
+
+#include <functional>
+
+#include <QListView>
+
+#include "controles/ModeleListe.h"
+
+namespace gastrelle {
+
+class ListeChoix final : public QListView {
+ public:
+  ListeChoix(const QString& nom, Ordre ordre, QWidget* parent = nullptr);
+
+  /// Runs at every choice, the user's and the program's.
+  std::function<void()> surChoix;
+  /// Runs on a double click on an entry.
+  std::function<void()> surDoubleClic;
+
+  /// Chooses an entry from code and fires `surChoix`. An index outside the list chooses nothing.
+  void Choisit(int indice);
+
+  void Ajoute(Liste nouvelles) { modele_.Ajoute(std::move(nouvelles)); }
+  void Vide() { modele_.Vide(); }
+
+  [[nodiscard]] const Liste& entrees() const { return modele_.entrees(); }
+  /// Index of the chosen entry, -1 for none.
+  [[nodiscard]] int indice() const { return currentIndex().row(); }
+  /// Item data of the chosen entry; a failure when there is none.
+  [[nodiscard]] std::int32_t Donnee() const;
+
+ protected:
+  void currentChanged(const QModelIndex& courant, const QModelIndex& precedent) override;
+
+ private:
+  ModeleListe modele_;
+};
+
+}  // namespace gastrelle

@@ -1,0 +1,16 @@
+// The application's style: the system's, but for what the program's lists and boxes need.
+#pragma once
+
+#include <QProxyStyle>
+
+namespace gastrelle {
+
+class StyleGastrelle final : public QProxyStyle {
+ public:
+  using QProxyStyle::QProxyStyle;
+
+  [[nodiscard]] int styleHint(StyleHint indice, const QStyleOption* option, const QWidget* controle,
+                              QStyleHintReturn* retour) const override;
+};
+
+}  // namespace gastrelle

@@ -1,0 +1,153 @@
+#include "controles/ZoneTexte.h"
+
+#include <algorithm>
+
+#include <QApplication>
+#include <QTextBlock>
+#include <QTextCursor>
+
+#include "controles/Conversion.h"
+
+namespace gastrelle {
+namespace {
+
+constexpr int sansLimiteQt = 32767;
+
+/// The look of what can be read and copied, not changed.
+void PeintLectureSeule(QWidget* boite) {
+  QPalette palette = boite->palette();
+  palette.setColor(QPalette::Base, palette.color(QPalette::Window));
+  boite->setPalette(palette);
+}
+
+/// Raw text of a document with "\n" between its lines: no-break spaces stay what they are.
+QString TexteBrut(const QTextDocument& document) {
+  return document.toRawText().replace(QChar::ParagraphSeparator, QChar(u'\n'));
+}
+
+/// Length as stored: a line break is two characters.
+qsizetype LongueurRangee(const QTextDocument& document) {
+  return document.characterCount() - 1 + document.blockCount() - 1;
+}
+
+}  // namespace
+
+ZoneTexte::ZoneTexte(const QString& nom, int limite, QWidget* parent)
+    : QPlainTextEdit(parent), limite_(limite) {
+  setObjectName(nom);
+  setProperty("maxLength", limite);
+  setTabChangesFocus(true);
+  connect(document(), &QTextDocument::contentsChange, this, [this](int ou, int, int ajoutes) {
+    debutSaisie_ = ou;
+    finSaisie_ = ou + ajoutes;
+  });
+  connect(this, &QPlainTextEdit::textChanged, this, [this] { Corrige(); });
+}
+
+void ZoneTexte::PoseTexte(std::string_view texte) {
+  parCode_ = true;
+  setPlainText(VersEcran(texte));
+  parCode_ = false;
+}
+
+std::string ZoneTexte::Texte() const {
+  return DepuisQt(TexteBrut(*document()).replace(u'\n', QStringLiteral("\r\n")));
+}
+
+void ZoneTexte::RendLectureSeule() {
+  setReadOnly(true);
+  setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+  PeintLectureSeule(this);
+}
+
+void ZoneTexte::Corrige() {
+  if (parCode_ || finSaisie_ <= debutSaisie_) {
+    return;
+  }
+  parCode_ = true;
+  // A combining accent composes with the letter before it.
+  CorrigePassage(std::max(0, debutSaisie_ - 1),
+                 std::min(finSaisie_, document()->characterCount() - 1));
+  parCode_ = false;
+}
+
+void ZoneTexte::CorrigePassage(int debut, int fin) {
+  QTextCursor passage(document());
+  passage.setPosition(debut);
+  passage.setPosition(fin, QTextCursor::KeepAnchor);
+  // selectedText turns no line into "\n": paragraphs stay paragraph separators.
+  QString saisi = passage.selectedText();
+  const QString avant = saisi;
+  saisi.replace(QChar::ParagraphSeparator, QChar(u'\n'))
+      .replace(QChar::LineSeparator, QChar(u'\n'));
+  bool perte = false;
+  QString garde = Acceptable(saisi, perte);
+  const qsizetype trop =
+      limite_ > 0 ? LongueurRangee(*document()) - limite_ - (saisi.size() - garde.size()) : 0;
+  bool coupe = false;
+  for (qsizetype reste = trop; reste > 0 && !garde.isEmpty(); coupe = true) {
+    reste -= garde.back() == u'\n' ? 2 : 1;
+    garde.chop(1);
+  }
+  if (perte || coupe) {
+    QApplication::beep();
+  }
+  if (garde != QString(avant).replace(QChar::ParagraphSeparator, QChar(u'\n'))) {
+    passage.joinPreviousEditBlock();
+    passage.insertText(garde);
+    passage.endEditBlock();
+    setTextCursor(passage);
+  }
+}
+
+LigneTexte::LigneTexte(const QString& nom, int limite, QWidget* parent)
+    : QLineEdit(parent), limite_(limite > 0 ? limite : sansLimiteQt) {
+  setObjectName(nom);
+  setMaxLength(limite_);
+  connect(this, &QLineEdit::textEdited, this, [this](const QString& saisi) { Corrige(saisi); });
+}
+
+void LigneTexte::PoseTexte(std::string_view texte) {
+  setMaxLength(std::max(limite_, static_cast<int>(texte.size())));
+  setText(VersQt(texte));
+  setCursorPosition(0);
+}
+
+std::string LigneTexte::Texte() const {
+  return DepuisQt(text());
+}
+
+void LigneTexte::RendLectureSeule() {
+  setReadOnly(true);
+  PeintLectureSeule(this);
+}
+
+void LigneTexte::Corrige(const QString& saisi) {
+  bool perte = false;
+  const QString garde = Acceptable(saisi, perte);
+  if (perte) {
+    QApplication::beep();
+  }
+  if (garde != saisi) {
+    bool ignoree = false;
+    const auto curseur = Acceptable(saisi.left(cursorPosition()), ignoree).size();
+    selectAll();
+    insert(garde);
+    setCursorPosition(static_cast<int>(curseur));
+  }
+}
+
+bool EstVide(const QWidget& boite) {
+  if (const auto* zone = dynamic_cast<const ZoneTexte*>(&boite)) {
+    return zone->document()->isEmpty();
+  }
+  return dynamic_cast<const LigneTexte&>(boite).text().isEmpty();
+}
+
+void DonneFocus(QWidget* controle) {
+  if (controle->isVisible() && controle->isEnabled()) {
+    controle->setFocus(Qt::OtherFocusReason);
+  }
+}
+
+}  // namespace gastrelle

@@ -1,0 +1,143 @@
+// A field of a record: its place, its width and its kind. One table of fields a record type serves
+// reading, writing, the factory compiler and the documentation's worked examples.
+//
+// Integers are little-endian two's complement. A text field is a fixed run of Windows-1252 bytes
+// padded on the right with blanks, without terminator.
+#pragma once
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <string>
+#include <string_view>
+#include <tuple>
+
+namespace gastrelle {
+
+/// A text field of N bytes. Setting a longer text cuts it, a shorter one is padded with blanks.
+template <std::size_t N>
+class TexteFixe {
+ public:
+  static constexpr std::size_t largeur = N;
+
+  constexpr TexteFixe() { octets_.fill(' '); }
+
+  constexpr TexteFixe& operator=(std::string_view texte) {
+    std::array<char, N> nouveaux{};  // the text may be a piece of the old one
+    nouveaux.fill(' ');
+    std::copy_n(texte.begin(), std::min(texte.size(), N), nouveaux.begin());
+    octets_ = nouveaux;
+    return *this;
+  }
+
+  /// All N bytes, padding included.
+  [[nodiscard]] constexpr std::string_view brut() const { return {octets_.data(), N}; }
+  [[nodiscard]] constexpr std::span<char, N> octets() { return std::span<char, N>(octets_); }
+
+  bool operator==(const TexteFixe&) const = default;
+
+ private:
+  std::array<char, N> octets_;
+};
+
+template <class Enregistrement, class Valeur>
+struct Champ {
+  std::string_view nom;
+  std::size_t decalage;
+  Valeur Enregistrement::*membre;
+
+  static constexpr std::size_t largeur = sizeof(Valeur);
+};
+
+template <class Enregistrement, class Valeur>
+Champ(const char*, std::size_t, Valeur Enregistrement::*) -> Champ<Enregistrement, Valeur>;
+
+/// The table of fields of a record type; each type gives its own.
+template <class Enregistrement>
+inline constexpr auto champs = std::tuple{};
+
+namespace detail {
+
+template <class Enregistrement>
+constexpr bool SeSuivent() {
+  std::size_t fin = 0;
+  bool bon = true;
+  std::apply(
+      [&](const auto&... champ) {
+        ((bon = bon && champ.decalage == fin, fin += champ.largeur), ...);
+      },
+      champs<Enregistrement>);
+  return bon;
+}
+
+inline void Range(std::int16_t valeur, char* place) {
+  const auto bits = static_cast<std::uint16_t>(valeur);
+  for (std::size_t i = 0; i < sizeof bits; ++i) {
+    place[i] = static_cast<char>(static_cast<unsigned>(bits) >> (8U * i));
+  }
+}
+
+inline void Range(std::int32_t valeur, char* place) {
+  const auto bits = static_cast<std::uint32_t>(valeur);
+  for (std::size_t i = 0; i < sizeof bits; ++i) {
+    place[i] = static_cast<char>(bits >> (8U * i));
+  }
+}
+
+template <std::size_t N>
+void Range(const TexteFixe<N>& valeur, char* place) {
+  std::copy_n(valeur.brut().data(), N, place);
+}
+
+inline std::uint32_t Bits(const char* place, std::size_t largeur) {
+  std::uint32_t bits = 0;
+  for (std::size_t i = largeur; i-- > 0;) {
+    bits = (bits << 8U) | static_cast<unsigned char>(place[i]);
+  }
+  return bits;
+}
+
+inline void Tire(std::int16_t& valeur, const char* place) {
+  valeur = static_cast<std::int16_t>(Bits(place, sizeof valeur));
+}
+
+inline void Tire(std::int32_t& valeur, const char* place) {
+  valeur = static_cast<std::int32_t>(Bits(place, sizeof valeur));
+}
+
+template <std::size_t N>
+void Tire(TexteFixe<N>& valeur, const char* place) {
+  std::copy_n(place, N, valeur.octets().data());
+}
+
+}  // namespace detail
+
+/// Length of a record on file, in bytes.
+template <class Enregistrement>
+inline constexpr std::size_t longueurEnregistrement =
+    std::apply([](const auto&... champ) { return (std::size_t{0} + ... + champ.largeur); },
+               champs<Enregistrement>);
+
+/// The bytes of a record, as on file.
+template <class Enregistrement>
+std::array<char, longueurEnregistrement<Enregistrement>> Code(const Enregistrement& e) {
+  std::array<char, longueurEnregistrement<Enregistrement>> octets{};
+  std::apply(
+      [&](const auto&... champ) {
+        (detail::Range(e.*champ.membre, octets.data() + champ.decalage), ...);
+      },
+      champs<Enregistrement>);
+  return octets;
+}
+
+/// Fills a record from its bytes; `octets` holds at least the record's length.
+template <class Enregistrement>
+void Decode(Enregistrement& e, const char* octets) {
+  std::apply(
+      [&](const auto&... champ) { (detail::Tire(e.*champ.membre, octets + champ.decalage), ...); },
+      champs<Enregistrement>);
+}
+
+}  // namespace gastrelle

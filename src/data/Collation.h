@@ -1,0 +1,33 @@
+// The alphabetical order of every sorted list: French, case ignored, accents beside their base
+// letter, the same on every machine whatever its locale.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace gastrelle {
+
+/// An entry of a list control: what it shows (Windows-1252) and the integer that it bears, the
+/// record number of the entry.
+struct EntreeListe {
+  std::string texte;
+  std::int32_t donnee = 0;
+
+  bool operator==(const EntreeListe&) const = default;
+};
+
+using Liste = std::vector<EntreeListe>;
+
+/// Compares first the base letters, case ignored and œ read as oe, then the accents.
+/// Negative, 0 or positive, as `std::string_view::compare`.
+int CompareFrancais(std::string_view gauche, std::string_view droite);
+
+/// Puts a list in order, in one go; equal texts keep the order in which they stand.
+void TrieFrancais(Liste& liste);
+
+/// The place where a single entry goes in a list that is in order: after its equals.
+std::size_t PlaceFrancaise(const Liste& liste, std::size_t depuis, std::string_view texte);
+
+}  // namespace gastrelle

@@ -1,0 +1,142 @@
+#include "data/ProceduresFichiers.h"
+
+#include <algorithm>
+
+#include "data/Texte1252.h"
+
+namespace gastrelle {
+namespace {
+
+/// A directory search: any failure of it counts as nothing found.
+template <class Recherche>
+bool Trouve(Recherche&& recherche) {
+  try {
+    return recherche();
+  } catch (const ErreurExecution&) {
+    return false;
+  }
+}
+
+void VerifieCompteEtSignature(Module1& module, Donnees fichier) {
+  module.AvecCatalogue(fichier, [&](auto& catalogue) {
+    const LigneCatalogue& ligne = Ligne(fichier);
+    catalogue.LireEntete();
+    if (catalogue.nbActifs() < ligne.moindre) {
+      throw ErreurExecution(Panne::fichierIntrouvable);
+    }
+    auto& signature = NomOuSignature(catalogue.entete());
+    const std::string lue(ligne.rognage == Rognage::deuxBouts ? Rogne(signature.brut())
+                                                              : RogneDroite(signature.brut()));
+    signature = lue;
+    if (lue != Signature(fichier)) {
+      throw ErreurExecution(Panne::fichierIntrouvable);
+    }
+  });
+}
+
+void VerifiePremiersOctets(Module1& module, Donnees fichier) {
+  const std::string_view attendu = Signature(fichier);
+  std::string lu(attendu.size(), ' ');
+  lu.resize(Ouvert(module.Place(fichier)).Lire(0, lu));
+  if (lu != attendu) {
+    throw ErreurExecution(Panne::fichierIntrouvable);
+  }
+}
+
+}  // namespace
+
+bool FichierExiste(Module1& module, std::string_view nom) {
+  return !nom.empty() && Trouve([&] { return module.services.disque.Existe(std::string(nom)); });
+}
+
+bool FichierExisteMsg(Module1& module, std::string_view nom) {
+  if (FichierExiste(module, nom)) {
+    return true;
+  }
+  module.services.pointeur.Normal();
+  module.services.messages.Informe("Fichier " + module.chemins.De(nom) + std::string(CRLF) +
+                                       std::string("non trouvé ou erreur disque."_1252),
+                                   Icone::critique);
+  return false;
+}
+
+bool FichierExisteMsg(Module1& module, Donnees fichier) {
+  return FichierExisteMsg(module, Ligne(fichier).nom);
+}
+
+void ExigeFichier(Module1& module, Donnees fichier) {
+  if (!FichierExisteMsg(module, fichier)) {
+    throw ErreurExecution(Panne::fichierIntrouvable);
+  }
+}
+
+void ExigeFichierOuFin(Module1& module, Donnees fichier) {
+  if (!FichierExisteMsg(module, fichier)) {
+    ErreurFatale(module);
+  }
+}
+
+bool DossierExiste(Module1& module, std::string_view nom) {
+  return Trouve([&] { return module.services.disque.DossierExiste(std::string(nom)); });
+}
+
+bool ImageExiste(Module1& module, std::string_view chemin) {
+  // A path in the program's own folder is looked up there, whatever the folder's own name holds.
+  const std::string_view relatif = module.chemins.Relatif(chemin);
+  return !chemin.empty() && Trouve([&] {
+    if (relatif.empty()) {
+      return module.services.disque.ExisteAilleurs(VersUtf8(chemin));
+    }
+    std::string nom = VersUtf8(relatif);
+    if constexpr (conventionDuSysteme == Convention::windows) {
+      std::replace(nom.begin(), nom.end(), '\\', '/');
+    }
+    return module.services.disque.Existe(nom);
+  });
+}
+
+void Ouvre(Module1& module, Donnees fichier) {
+  module.Place(fichier) = module.services.disque.Ouvrir(Nom(fichier));
+}
+
+void VerifieEntete(Module1& module, Donnees fichier) {
+  switch (Ligne(fichier).controle) {
+    case Controle::entete:
+      return VerifieCompteEtSignature(module, fichier);
+    case Controle::signature:
+      return VerifiePremiersOctets(module, fichier);
+    case Controle::aucun:
+      return;
+  }
+}
+
+bool OuvreFichiersRecettes(Module1& module, bool verifier) {
+  try {
+    for (const Donnees fichier : {Donnees::GLR1, Donnees::GLR2, Donnees::GLR3, Donnees::GLR4}) {
+      Ouvre(module, fichier);
+      if (verifier) {
+        VerifieEntete(module, fichier);
+      }
+    }
+    return true;
+  } catch (const ErreurExecution&) {
+    return false;
+  }
+}
+
+void ErreurFatale(Module1& module) {
+  module.services.pointeur.Normal();
+  module.services.messages.Bip();
+  module.services.messages.Informe("Erreur fatale. Impossibilité de continuer."_1252,
+                                   Icone::critique);
+  module.services.processus.Termine(1);
+}
+
+void FinOperation(Module1& module) {
+  module.services.pointeur.Normal();
+  if (module.erreurFatale) {
+    ErreurFatale(module);
+  }
+}
+
+}  // namespace gastrelle

@@ -1,0 +1,66 @@
+// The small procedures around the data files that every catalogue uses, and the operation guard.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "data/Module1.h"
+
+namespace gastrelle {
+
+/// True if the program's folder holds a file of that bare name. A search that fails for any reason
+/// answers False; nothing is ever reported.
+[[nodiscard]] bool FichierExiste(Module1& module, std::string_view nom);
+
+/// The same test; a False answer is told to the user, the pointer being set to normal before.
+[[nodiscard]] bool FichierExisteMsg(Module1& module, std::string_view nom);
+[[nodiscard]] bool FichierExisteMsg(Module1& module, Donnees fichier);
+
+/// FichierExisteMsg; raises error 53 on a False answer.
+void ExigeFichier(Module1& module, Donnees fichier);
+
+/// FichierExisteMsg; ends the program through ErreurFatale on a False answer.
+void ExigeFichierOuFin(Module1& module, Donnees fichier);
+
+/// True if the program's folder holds a folder of that name. Silent.
+[[nodiscard]] bool DossierExiste(Module1& module, std::string_view nom);
+
+/// True if a picture stands at that path. A search that fails in any way counts as not found.
+[[nodiscard]] bool ImageExiste(Module1& module, std::string_view chemin);
+
+/// Opens a data file into its place of the shared state.
+void Ouvre(Module1& module, Donnees fichier);
+
+/// The header test of a file's row of the table; raises error 53 on a bad header.
+void VerifieEntete(Module1& module, Donnees fichier);
+
+/// Reopens the four recipe files, in order, with the header test if `verifier` asks for it. The
+/// first failure stops the sequence and answers False; nothing is reported.
+[[nodiscard]] bool OuvreFichiersRecettes(Module1& module, bool verifier);
+
+/// Pointer to normal, a beep, the fatal message, the end of the process with status 1.
+[[noreturn]] void ErreurFatale(Module1& module);
+
+/// The end of a guarded operation: pointer to normal, then ErreurFatale if the flag stands.
+void FinOperation(Module1& module);
+
+/// Runs a block; a failure sets the shared flag `erreurFatale` and is told by a False answer.
+template <class F>
+bool Tente(Module1& module, F&& bloc) {
+  try {
+    bloc();
+    return true;
+  } catch (const ErreurExecution&) {
+    module.erreurFatale = true;
+    return false;
+  }
+}
+
+/// The operation guard: the block, then the end of the operation.
+template <class F>
+void Garde(Module1& module, F&& bloc) {
+  Tente(module, bloc);
+  FinOperation(module);
+}
+
+}  // namespace gastrelle

@@ -1,0 +1,56 @@
+// A text pool: a flat file of bytes, its own name at the head, then texts one after the other with
+// nothing between them. The only map of what is alive in it is the set of records that point there.
+#pragma once
+
+#include <cstdint>
+#include <limits>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "plateforme/AccesFichiers.h"
+
+namespace gastrelle {
+
+/// Where a record keeps its reference to a text: the position of the first byte, counted from 1,
+/// and the length in bytes. (0, 0) is no text.
+struct ReferenceTexte {
+  std::int32_t& position;
+  std::int32_t& longueur;
+
+  /// The record has no text any more; the pool isn't touched.
+  void Efface() const {
+    position = 0;
+    longueur = 0;
+  }
+};
+
+class Reserve {
+ public:
+  static constexpr std::int32_t sansLimite = std::numeric_limits<std::int32_t>::max();
+
+  explicit Reserve(const std::unique_ptr<Fichier>& place) : place_(place) {}
+
+  /// The first `limite` bytes of a text, or what the file holds of them. Throws for a position
+  /// below 1 or a negative length.
+  [[nodiscard]] std::string Lire(std::int32_t position, std::int32_t longueur,
+                                 std::int32_t limite = sansLimite);
+
+  /// Puts a non-empty text at the end of the pool; the reference is set before the bytes are
+  /// written.
+  void Ajoute(ReferenceTexte reference, std::string_view texte);
+
+  /// Replaces a text: emptied, it loses its reference; longer than the old one, it goes to the end;
+  /// otherwise it overwrites the old one from its first byte.
+  void Remplace(ReferenceTexte reference, std::string_view texte);
+
+  /// Length of the whole pool, in bytes.
+  [[nodiscard]] std::int64_t Longueur();
+
+ private:
+  void Ecrire(ReferenceTexte reference, std::int64_t position, std::string_view texte);
+
+  const std::unique_ptr<Fichier>& place_;
+};
+
+}  // namespace gastrelle

@@ -1,0 +1,46 @@
+// What a window shows at this moment, as plain values: what the commands of the frame, the
+// documents and the printed pages need of it. Texts are Windows-1252.
+#pragma once
+
+#include <string>
+#include <variant>
+#include <vector>
+
+namespace gastrelle {
+
+struct VueRecette {
+  std::string famille;
+  std::string titre;
+  std::string texte;
+  std::string image;  ///< complete path of the picture, empty when there is none
+};
+
+struct VueFromage {
+  std::string nom;
+  std::string region;
+  std::string lait;
+  std::string premierMois;
+  std::string dernierMois;
+  std::string notes;
+};
+
+struct VueFromagesTries {
+  std::string lait;  ///< empty while no milk is chosen
+  std::vector<std::string> fromages;
+};
+
+struct VueMenu {
+  std::string titre;
+  std::string texte;
+};
+
+struct VueTruc {
+  std::string titre;
+  std::string texte;
+};
+
+/// Nothing, or what the tab on display shows.
+using Vue =
+    std::variant<std::monostate, VueRecette, VueFromage, VueFromagesTries, VueMenu, VueTruc>;
+
+}  // namespace gastrelle

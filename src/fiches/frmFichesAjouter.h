@@ -1,0 +1,20 @@
+// The tab "Ajouter" of a window of titled texts.
+#pragma once
+
+#include "fiches/frmFichesSaisie.h"
+
+namespace gastrelle {
+
+class frmFichesAjouter final : public frmFichesSaisie {
+ public:
+  explicit frmFichesAjouter(frmFiches& hote);
+
+  /// The entry rule of the tab: both boxes are emptied.
+  void Entre() override;
+
+ private:
+  void Valide();
+  void Efface();
+};
+
+}  // namespace gastrelle

@@ -1,0 +1,19 @@
+// The tab "Modifier" of a window of titled texts.
+#pragma once
+
+#include "fiches/frmFichesSaisie.h"
+
+namespace gastrelle {
+
+class frmFichesModifier final : public frmFichesSaisie {
+ public:
+  explicit frmFichesModifier(frmFiches& hote);
+
+  /// The entry rule of the tab: the boxes take the record on display.
+  void Entre() override;
+
+ private:
+  void Valide();
+};
+
+}  // namespace gastrelle

@@ -1,0 +1,26 @@
+// The tab "Supprimer" of a window of titled texts: deletes the record on display. Those of the
+// factory are protected.
+#pragma once
+
+#include <QPushButton>
+
+#include "fiches/frmFichesSaisie.h"
+
+namespace gastrelle {
+
+class frmFichesSupprimer final : public frmFichesSaisie {
+ public:
+  explicit frmFichesSupprimer(frmFiches& hote);
+
+  /// The entry rule of the tab: what would be deleted, and whether it may be.
+  void Entre() override;
+
+ private:
+  void PermetSuppression(bool permise);
+  void Supprime();
+
+  QPushButton* cmdSupprimer_;
+  QPushButton* cmdAideSupprimer_;
+};
+
+}  // namespace gastrelle

@@ -1,0 +1,28 @@
+// The tab "Liste" of the cheeses window: the cheese of the whole window, with all that is known of
+// it.
+#pragma once
+
+#include "controles/ComboListe.h"
+#include "data/Vues.h"
+#include "fromages/frmFromagesAffichage.h"
+
+namespace gastrelle {
+
+class frmFromagesListe final : public frmFromagesAffichage {
+ public:
+  explicit frmFromagesListe(frmFromages& hote);
+
+  ComboListe* ComboFromages;
+
+  /// Name of the selected cheese, trimmed; empty without one.
+  [[nodiscard]] std::string Nom() const;
+  [[nodiscard]] VueFromage VueCourante() const;
+  /// The entry rule of the tab: the focus to the first box that holds something.
+  void Entre() override;
+
+ private:
+  frmFromagesListe(frmFromages& hote, ComboListe* fromages);
+  void AfficheFromage();
+};
+
+}  // namespace gastrelle

@@ -1,0 +1,21 @@
+// The tab "Modifier" of the cheeses window: the cheese on display, to be changed.
+#pragma once
+
+#include "fromages/frmFromagesSaisie.h"
+
+namespace gastrelle {
+
+class frmFromagesModifier final : public frmFromagesSaisie {
+ public:
+  explicit frmFromagesModifier(frmFromages& hote);
+
+  /// The entry rule of the tab: the fields take the cheese on display.
+  void Entre() override;
+
+ private:
+  void Valide();
+  [[nodiscard]] bool NomDejaDonne(const std::string& nom);
+  void Enregistre();
+};
+
+}  // namespace gastrelle

@@ -1,0 +1,49 @@
+#include "fromages/frmFromagesPage.h"
+
+#include <array>
+
+#include "fromages/frmFromages.h"
+
+namespace gastrelle {
+namespace {
+
+constexpr int lettresCode = 24;  ///< width of a milk or a month, with the arrow of its list
+
+}  // namespace
+
+frmFromagesPage::frmFromagesPage(frmFromages& hote) : PageOnglet(hote), hote_(hote) {}
+
+void frmFromagesPage::Dispose(const ChampsFromage& champs) {
+  Rang(QStringLiteral("Le fromage"), champs.nom);
+  Rang(QStringLiteral("Sa région d'origine"), champs.region);
+  RangCourt(Legende(QStringLiteral("Au lait de "), champs.lait), {champs.lait});
+  RangCourt(new QLabel(QStringLiteral("Meilleure période de dégustation "), this),
+            {Legende(QStringLiteral("de"), champs.premierMois), champs.premierMois,
+             Legende(QStringLiteral("à"), champs.dernierMois), champs.dernierMois});
+  champs.premierMois->setAccessibleName(QStringLiteral("Premier mois de dégustation"));
+  champs.dernierMois->setAccessibleName(QStringLiteral("Dernier mois de dégustation"));
+  for (QWidget* code : {champs.lait, champs.premierMois, champs.dernierMois}) {
+    code->setFixedWidth(lettresCode * code->fontMetrics().averageCharWidth());
+  }
+  contenu().setRowStretch(Rang(QStringLiteral("Notes"), champs.notes), 1);
+
+  // The keyboard follows the rows, whatever the order in which the controls were made.
+  const std::array<QWidget*, 6> ordre{champs.nom,         champs.region,      champs.lait,
+                                      champs.premierMois, champs.dernierMois, champs.notes};
+  for (std::size_t i = 1; i < ordre.size(); ++i) {
+    setTabOrder(ordre[i - 1], ordre[i]);
+  }
+}
+
+void frmFromagesPage::RangCourt(QLabel* legende, std::initializer_list<QWidget*> controles) {
+  auto* suite = new QHBoxLayout;
+  for (QWidget* controle : controles) {
+    suite->addWidget(controle);
+  }
+  suite->addStretch(1);
+  const int rang = contenu().rowCount();
+  contenu().addWidget(legende, rang, 0);
+  contenu().addLayout(suite, rang, 1);
+}
+
+}  // namespace gastrelle

@@ -1,0 +1,47 @@
+#include "fromages/frmFromagesSaisie.h"
+
+#include "data/FichierEnregistrements.h"
+#include "fromages/frmFromages.h"
+
+namespace gastrelle {
+namespace {
+
+ComboListe* Codes(const QString& nom, std::span<const std::string_view> noms, QWidget* parent) {
+  auto* liste = new ComboListe(nom, Ordre::insertion, parent);
+  liste->Ajoute(ListeCodes(noms));
+  return liste;
+}
+
+/// The list stands in the order of the codes.
+std::int16_t Code(const ComboListe& liste) {
+  return Tenu<std::int16_t>(liste.currentIndex());
+}
+
+}  // namespace
+
+frmFromagesSaisie::frmFromagesSaisie(frmFromages& hote, const QString& suffixe)
+    : frmFromagesPage(hote),
+      txtFromage(new LigneTexte(QStringLiteral("txtFromage") + suffixe, limiteNomFromage, this)),
+      txtRegion(new LigneTexte(QStringLiteral("txtRegion") + suffixe, limiteRegionFromage, this)),
+      ComboLait(Codes(QStringLiteral("ComboLait") + suffixe, laitNoms, this)),
+      ComboPremierMois(Codes(QStringLiteral("ComboPremierMois") + suffixe, moisNoms, this)),
+      ComboDernierMois(Codes(QStringLiteral("ComboDernierMois") + suffixe, moisNoms, this)),
+      txtNotes(new ZoneTexte(QStringLiteral("txtNotes") + suffixe, limiteNotesFromage, this)) {
+  Dispose({txtFromage, txtRegion, ComboLait, ComboPremierMois, ComboDernierMois, txtNotes});
+}
+
+FromageSaisi frmFromagesSaisie::Saisi() {
+  txtRegion->RogneTexte();
+  txtNotes->RogneTexte();
+  return {txtFromage->Texte(),     txtRegion->Texte(),      Code(*ComboLait),
+          Code(*ComboPremierMois), Code(*ComboDernierMois), txtNotes->Texte()};
+}
+
+void frmFromagesSaisie::MontreCodes(std::int16_t lait, std::int16_t premierMois,
+                                    std::int16_t dernierMois) {
+  ComboLait->Montre(lait);
+  ComboPremierMois->Montre(premierMois);
+  ComboDernierMois->Montre(dernierMois);
+}
+
+}  // namespace gastrelle

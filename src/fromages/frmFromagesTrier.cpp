@@ -1,0 +1,124 @@
+#include "fromages/frmFromagesTrier.h"
+
+#include "controles/Icones.h"
+#include "controles/Touches.h"
+#include "controles/ZoneTexte.h"
+#include "data/ProceduresFichiers.h"
+#include "fromages/CatalogueFromages.h"
+#include "fromages/frmFromages.h"
+#include "fromages/frmFromagesListe.h"
+
+namespace gastrelle {
+namespace {
+
+constexpr int taillePicture = 192;
+
+QLabel* Picture(const QString& nom, const QString& icone, QWidget* parent) {
+  auto* image = new QLabel(parent);
+  image->setObjectName(nom);
+  image->setPixmap(IconeDe(icone).pixmap(taillePicture, taillePicture));
+  image->setAlignment(Qt::AlignCenter);
+  return image;
+}
+
+}  // namespace
+
+frmFromagesTrier::frmFromagesTrier(frmFromages& hote)
+    : PageOnglet(hote),
+      hote_(hote),
+      ComboLaitTrier_(new ComboListe(QStringLiteral("ComboLaitTrier"), Ordre::insertion, this)),
+      List1_(new ListeChoix(QStringLiteral("List1"), Ordre::alphabetique, this)),
+      PictureSouris_(Picture(QStringLiteral("PictureSouris"), QStringLiteral("souris"), this)),
+      PictureAnimal_{
+          Picture(QStringLiteral("PictureAnimal(0)"), QStringLiteral("animal-vache"), this),
+          Picture(QStringLiteral("PictureAnimal(1)"), QStringLiteral("animal-chevre"), this),
+          Picture(QStringLiteral("PictureAnimal(2)"), QStringLiteral("animal-brebis"), this)},
+      cmdActiver_(Bouton(QStringLiteral("cmdActiver"), QStringLiteral("A&fficher"),
+                         QStringLiteral("valider"),
+                         QStringLiteral("Afficher le fromage sélectionné"), this)) {
+  Dispose();
+  ComboLaitTrier_->Ajoute(ListeCodes(laitNoms));
+  MontreListe(0);
+  ComboLaitTrier_->surChoix = [this] { ChoisitLait(); };
+  List1_->surDoubleClic = [this] { AfficheSelection(); };
+  connect(cmdActiver_, &QPushButton::clicked, this, [this] { AfficheSelection(); });
+}
+
+void frmFromagesTrier::Dispose() {
+  List1_->setToolTip(QStringLiteral("Double-clic pour afficher la sélection"));
+  List1_->setAccessibleName(QStringLiteral("Les fromages de ce lait"));
+  auto* choix = new QHBoxLayout;
+  choix->addWidget(Legende(QStringLiteral("Au lait de "), ComboLaitTrier_));
+  choix->addWidget(ComboLaitTrier_);
+  choix->addStretch(1);
+  // Either the list with its animal, or the mouse alone.
+  auto* page = new QHBoxLayout;
+  page->addWidget(List1_, 2);
+  page->addWidget(PictureSouris_, 1);
+  for (QLabel* animal : PictureAnimal_) {
+    page->addWidget(animal, 1);
+  }
+  contenu().addLayout(choix, 0, 0);
+  contenu().addLayout(page, 1, 0);
+  contenu().setRowStretch(1, 1);
+  boutons().addWidget(cmdActiver_);
+  boutons().addWidget(BoutonAide(QStringLiteral("cmdAide"), this));
+}
+
+void frmFromagesTrier::Entre() {
+  ComboLaitTrier_->Choisit(0);
+}
+
+void frmFromagesTrier::MontreListe(int lait) {
+  const bool montree = lait != 0;
+  PictureSouris_->setVisible(!montree);
+  List1_->setVisible(montree);
+  cmdActiver_->setVisible(montree);
+  for (int i = 0; i < static_cast<int>(PictureAnimal_.size()); ++i) {
+    PictureAnimal_[static_cast<std::size_t>(i)]->setVisible(i == lait - 1);
+  }
+}
+
+void frmFromagesTrier::ChoisitLait() {
+  Module1& module = hote_.module();
+  List1_->Vide();
+  MontreListe(0);
+  const int lait = ComboLaitTrier_->currentIndex();
+  if (lait == 0) {
+    DonneFocus(ComboLaitTrier_);
+    return;
+  }
+  module.services.pointeur.Sablier();
+  Garde(module, [&] { List1_->Ajoute(FromagesAuLait(module, Tenu<std::int16_t>(lait))); });
+  if (List1_->entrees().empty()) {
+    module.services.messages.Informe("Aucun fromage mémorisé"_1252, Icone::aucune);
+    DonneFocus(ComboLaitTrier_);
+    return;
+  }
+  MontreListe(lait);
+  List1_->Choisit(0);
+}
+
+void frmFromagesTrier::AfficheSelection() {
+  if (List1_->indice() < 0) {
+    return;
+  }
+  ComboListe& fromages = *hote_.liste().ComboFromages;
+  if (const auto indice = fromages.modele().IndiceDe(List1_->Donnee())) {
+    hote_.ChoisitOnglet(frmFromages::ongletListe);
+    fromages.Choisit(*indice);
+  }
+}
+
+VueFromagesTries frmFromagesTrier::VueCourante() const {
+  VueFromagesTries vue;
+  if (ComboLaitTrier_->currentIndex() > 0) {
+    vue.lait = ComboLaitTrier_->Texte();
+  }
+  for (const EntreeListe& fromage : List1_->entrees()) {
+    vue.fromages.push_back(fromage.texte);
+  }
+  return vue;
+}
+
+}  // namespace gastrelle

@@ -1,0 +1,58 @@
+// Builds the parts, hands over to `Main`, runs the window events.
+
+#include "data/Main.h"
+
+#include <filesystem>
+#include <memory>
+
+#include "controles/Boites.h"
+#include "controles/Conversion.h"
+#include "plateforme/Clavier.h"
+#include "plateforme/Disque.h"
+#include "plateforme/Instance.h"
+#include "shell/Application.h"
+#include "shell/frmMain.h"
+
+namespace {
+
+/// The connection to the X server that the toolkit has opened; null on any other system.
+void* EcranX11(const QGuiApplication& application) {
+#if QT_CONFIG(xcb)
+  const auto* x11 = application.nativeInterface<QNativeInterface::QX11Application>();
+  return x11 == nullptr ? nullptr : x11->display();
+#else
+  static_cast<void>(application);
+  return nullptr;
+#endif
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  using namespace gastrelle;
+  MessagesEcran messages;
+  PointeurEcran pointeur;
+  HorlogeSysteme horloge;
+  AssociationSysteme association;
+  SonSysteme son;
+  ProcessusSysteme processus;
+  Application application(argc, argv, messages, processus);
+  ClavierSysteme clavier(EcranX11(application));
+
+  const std::filesystem::path dossier = QApplication::applicationDirPath().toStdU16String();
+  Disque disque(dossier);
+  const std::unique_ptr<Instance> instance = Instance::Prend(dossier);
+  Module1 module({disque, messages, pointeur, horloge, association, son, processus},
+                 Chemins(conventionDuSysteme, DepuisQt(QApplication::applicationDirPath())));
+  try {
+    std::unique_ptr<frmMain> cadre;
+    Main(module, instance == nullptr, [&] {
+      cadre = std::make_unique<frmMain>(module, clavier);
+      cadre->surFin = [] { QApplication::exit(0); };
+      cadre->show();
+    });
+    return QApplication::exec();
+  } catch (const ErreurExecution& erreur) {
+    FinSurErreur(erreur, messages, processus);
+  }
+}

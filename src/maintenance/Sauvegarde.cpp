@@ -1,0 +1,28 @@
+#include "maintenance/Sauvegarde.h"
+
+#include <string>
+
+#include "data/ProceduresFichiers.h"
+
+namespace gastrelle {
+
+bool CopieSecurite(Module1& module) {
+  AccesFichiers& disque = module.services.disque;
+  const std::string dossier(dossierSauvegarde);
+  try {
+    for (auto& fichier : module.fichiers) {
+      fichier.reset();
+    }
+    if (!DossierExiste(module, dossier)) {
+      disque.CreerDossier(dossier);
+    }
+    for (const Donnees fichier : {Donnees::GLR1, Donnees::GLR2, Donnees::GLR3, Donnees::GLR4}) {
+      disque.Copier(Nom(fichier), dossier + "/" + Nom(fichier));
+    }
+    return true;
+  } catch (const ErreurExecution&) {
+    return false;
+  }
+}
+
+}  // namespace gastrelle

@@ -1,0 +1,32 @@
+// Opening a document, a picture or an address with the program that the system associates with it.
+#pragma once
+
+#include <string>
+
+namespace gastrelle {
+
+enum class Ouverture {
+  ouverte,
+  aucuneAssociation,  ///< no program is associated with that kind of document
+  echec,              ///< anything else: not there, refused...
+};
+
+class Association {
+ public:
+  Association() = default;
+  Association(const Association&) = delete;
+  Association& operator=(const Association&) = delete;
+  virtual ~Association() = default;
+
+  /// `cible` is an absolute path or an address with its scheme, in UTF-8. Returns at once; never
+  /// throws.
+  virtual Ouverture Ouvrir(const std::string& cible) = 0;
+};
+
+/// GIO's application look-up on Linux, the shell on Windows.
+class AssociationSysteme final : public Association {
+ public:
+  Ouverture Ouvrir(const std::string& cible) override;
+};
+
+}  // namespace gastrelle

@@ -1,0 +1,17 @@
+#include <X11/XKBlib.h>
+#include <X11/Xlib.h>
+
+#include "plateforme/Clavier.h"
+
+namespace gastrelle {
+
+std::optional<Verrous> ClavierSysteme::Lit() {
+  unsigned temoins = 0;
+  if (ecran_ == nullptr ||
+      XkbGetIndicatorState(static_cast<Display*>(ecran_), XkbUseCoreKbd, &temoins) != Success) {
+    return std::nullopt;
+  }
+  return Verrous{(temoins & 1U) != 0, (temoins & 2U) != 0};
+}
+
+}  // namespace gastrelle

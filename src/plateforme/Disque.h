@@ -1,0 +1,30 @@
+// The disk of the machine, seen from the program's folder.
+#pragma once
+
+#include <filesystem>
+
+#include "plateforme/AccesFichiers.h"
+
+namespace gastrelle {
+
+class Disque final : public AccesFichiers {
+ public:
+  explicit Disque(std::filesystem::path dossier) : dossier_(std::move(dossier)) {}
+
+  bool Existe(const std::string& nom) override;
+  bool DossierExiste(const std::string& nom) override;
+  bool ExisteAilleurs(const std::string& chemin) override;
+  std::unique_ptr<Fichier> Ouvrir(const std::string& nom) override;
+  void Copier(const std::string& source, const std::string& cible) override;
+  void Supprimer(const std::string& nom) override;
+  void Renommer(const std::string& nom, const std::string& nouveau) override;
+  void CreerDossier(const std::string& nom) override;
+  void SupprimerDossier(const std::string& nom) override;
+
+ private:
+  [[nodiscard]] std::filesystem::path Chemin(const std::string& nom) const;
+
+  std::filesystem::path dossier_;
+};
+
+}  // namespace gastrelle

@@ -1,0 +1,43 @@
+// The one exception of the program: a run-time failure with its number and its text.
+#pragma once
+
+#include <exception>
+#include <string>
+
+namespace gastrelle {
+
+/// Numbers of the failures. Only a failure outside every guard ever shows its number.
+enum class Panne : int {
+  appelIncorrect = 5,
+  depassement = 6,
+  fichierFerme = 52,
+  fichierIntrouvable = 53,
+  entreeSortie = 57,
+  disquePlein = 61,
+  numeroEnregistrement = 63,
+  permissionRefusee = 70,
+  accesFichier = 75,
+  cheminIntrouvable = 76,
+};
+
+class ErreurExecution : public std::exception {
+ public:
+  explicit ErreurExecution(Panne panne) : panne_(panne) {}
+
+  [[nodiscard]] Panne panne() const noexcept { return panne_; }
+  [[nodiscard]] int numero() const noexcept { return static_cast<int>(panne_); }
+
+  /// What the user reads, as Windows-1252 bytes.
+  [[nodiscard]] const char* what() const noexcept override;
+
+  /// "Erreur d'exécution 'N' : " and the text, as Windows-1252 bytes.
+  [[nodiscard]] std::string Rapport() const;
+
+ private:
+  Panne panne_;
+};
+
+/// The failure that stands for an `errno` of the operating system.
+Panne PanneDuSysteme(int codeErrno) noexcept;
+
+}  // namespace gastrelle

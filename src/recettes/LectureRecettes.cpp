@@ -1,0 +1,62 @@
+#include "recettes/LectureRecettes.h"
+
+#include "data/ListeVivants.h"
+#include "data/ProceduresFichiers.h"
+
+namespace gastrelle {
+namespace {
+
+void LitImage(Module1& module, std::int32_t numero, RecetteLue& lue) {
+  RecRecette& recette = module.bufRecette.courant();
+  const std::string chemin =
+      module.chemins.Developpe(module.cheminsImages.Lire(recette.posImage, recette.lgImage));
+  if (ImageExiste(module, chemin)) {
+    lue.image = chemin;
+    return;
+  }
+  ReferenceTexte{recette.posImage, recette.lgImage}.Efface();
+  module.bufRecette.EcrireCourant(numero);
+  lue.imagePerdue = chemin;
+}
+
+}  // namespace
+
+Liste ListeFamilles(Module1& module) {
+  Liste familles;
+  AjouteVivants(module.bufFamille, module.bufFamille.courant(), familles);
+  return familles;
+}
+
+ListeComptee RecettesDeFamille(Module1& module, std::int32_t idFamille) {
+  ExigeFichier(module, Donnees::GLR2);
+  ListeComptee recettes;
+  recettes.vus = AjouteVivants(module.bufRecette, module.bufRecette.courant(), recettes.liste,
+                               [&](const RecRecette& r) { return r.idFamille == idFamille; });
+  return recettes;
+}
+
+ListeComptee ToutesRecettes(Module1& module) {
+  ExigeFichier(module, Donnees::GLR2);
+  ListeComptee recettes;
+  recettes.vus = AjouteVivants(module.bufRecette, module.bufRecette.courant(), recettes.liste);
+  return recettes;
+}
+
+RecetteLue LitRecette(Module1& module, std::int32_t numero) {
+  for (const Donnees fichier : {Donnees::GLR2, Donnees::GLR3, Donnees::GLR4}) {
+    ExigeFichier(module, fichier);
+  }
+  module.bufRecette.LireCourant(numero);
+  const RecRecette& recette = module.bufRecette.courant();
+  RecetteLue lue;
+  if (recette.posTexte >= 1) {
+    lue.texte = module.textesRecettes.Lire(recette.posTexte, recette.lgTexte, limiteTexteRecette);
+  }
+  lue.associee = recette.posImage != 0;
+  if (lue.associee) {
+    LitImage(module, numero, lue);
+  }
+  return lue;
+}
+
+}  // namespace gastrelle

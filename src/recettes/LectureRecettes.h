@@ -1,0 +1,46 @@
+// The reading half of the recipe catalogue: families, recipes, the text and the picture of a
+// recipe. Lists are built by a full scan in record order; the windows' lists sort them.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "data/Collation.h"
+#include "data/Module1.h"
+
+namespace gastrelle {
+
+/// How much of a recipe's text is shown, in bytes.
+inline constexpr std::int32_t limiteTexteRecette = 30000;
+
+/// A list and the number of live records that the scan saw on its way.
+struct ListeComptee {
+  Liste liste;
+  std::int16_t vus = 0;
+};
+
+/// All live families, through the working record. The scan stops at the header's count, or quietly
+/// at the last record, and repairs nothing. Throws on a failure.
+Liste ListeFamilles(Module1& module);
+
+/// The live recipes of a family, through the working record. The file must still be there (the user
+/// is told when it isn't). The header's count is not repaired here. Throws on a failure.
+ListeComptee RecettesDeFamille(Module1& module, std::int32_t idFamille);
+
+/// All live recipes, under the same rules.
+ListeComptee ToutesRecettes(Module1& module);
+
+/// What a recipe shows.
+struct RecetteLue {
+  std::string texte;
+  bool associee = false;    ///< the record had a picture when it was read
+  std::string image;        ///< complete path of the picture, empty when there is none
+  std::string imagePerdue;  ///< path of a picture that is gone: its association has been removed
+};
+
+/// Reads a recipe into the working record, then its text and the path of its picture. A picture
+/// that is gone loses its association for good: the record is written back without it. The three
+/// files must still be there (the user is told when one isn't). Throws on a failure.
+RecetteLue LitRecette(Module1& module, std::int32_t numero);
+
+}  // namespace gastrelle

@@ -1,0 +1,116 @@
+#include "shell/Aide.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QWindow>
+
+#include "controles/Conversion.h"
+#include "controles/Touches.h"
+#include "plateforme/ErreurExecution.h"
+#include "shell/FichierAide.h"
+#include "shell/frmAide.h"
+
+namespace gastrelle {
+namespace {
+
+/// The topic of a control: its own, or that of the nearest widget around it that has one.
+QString SujetDe(const QWidget* controle) {
+  for (; controle != nullptr; controle = controle->parentWidget()) {
+    QString sujet = controle->property(proprieteSujet).toString();
+    if (!sujet.isEmpty()) {
+      return sujet;
+    }
+  }
+  return QLatin1String(sujetAccueil);
+}
+
+bool EstF1(const QEvent& evenement) {
+  if (evenement.type() != QEvent::KeyPress) {
+    return false;
+  }
+  const auto& touche = static_cast<const QKeyEvent&>(evenement);
+  return touche.key() == Qt::Key_F1 && touche.modifiers() == Qt::NoModifier;
+}
+
+}  // namespace
+
+Aide::Aide(Module1& module) : module_(module) {
+  qApp->installEventFilter(this);
+}
+
+Aide::~Aide() = default;
+
+bool Aide::Prepare() {
+  if (fenetre_ != nullptr) {
+    return true;
+  }
+  const auto dit = [this](std::string_view texte) {
+    module_.services.messages.Informe(texte, Icone::aucune);
+  };
+  try {
+    fichier_ = FichierAide::Ouvre(VersQt(module_.fichierAide));
+  } catch (const ErreurExecution& erreur) {
+    dit(erreur.what());
+    return false;
+  }
+  if (fichier_ == nullptr) {
+    dit("Fichier d'aide illisible ou incomplet");
+    return false;
+  }
+  fenetre_ = std::make_unique<frmAide>(*fichier_);
+  return true;
+}
+
+void Aide::Ouvre(const QString& sujet) {
+  if (module_.fichierAide.empty() || !Prepare()) {
+    return;
+  }
+  QWidget* menu = QApplication::activePopupWidget();
+  while (menu != nullptr && menu->close()) {
+    menu = QApplication::activePopupWidget();
+  }
+  fenetre_->Montre(sujet);
+  Rattache(QApplication::activeModalWidget());
+  fenetre_->isMinimized() ? fenetre_->showNormal() : fenetre_->show();
+  fenetre_->raise();
+  fenetre_->activateWindow();
+}
+
+void Aide::Rattache(QWidget* dialogue) {
+  dialogue_ = dialogue;
+  fenetre_->winId();  // the native window, before it is shown
+  fenetre_->windowHandle()->setTransientParent(
+      dialogue == nullptr ? nullptr : dialogue->window()->windowHandle());
+}
+
+void Aide::Quitte() {
+  dialogue_ = nullptr;
+  fenetre_.reset();
+  fichier_.reset();
+}
+
+bool Aide::eventFilter(QObject* objet, QEvent* evenement) {
+  if (EstF1(*evenement)) {
+    if (auto* controle = qobject_cast<QWidget*>(objet)) {
+      if (!static_cast<QKeyEvent*>(evenement)->isAutoRepeat()) {
+        Ouvre(SujetDe(controle));
+      }
+      return true;
+    }
+  }
+  if (evenement->type() == QEvent::Hide && dialogue_ != nullptr && objet == dialogue_) {
+    Rattache(nullptr);
+    // The dialog around the one that closes, if any, is known once the closing is over.
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+          if (fenetre_ != nullptr && fenetre_->isVisible()) {
+            Rattache(QApplication::activeModalWidget());
+          }
+        },
+        Qt::QueuedConnection);
+  }
+  return QObject::eventFilter(objet, evenement);
+}
+
+}  // namespace gastrelle

@@ -1,0 +1,42 @@
+#include "shell/Application.h"
+
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QTranslator>
+
+#include "controles/Conversion.h"
+#include "controles/StyleGastrelle.h"
+
+namespace gastrelle {
+
+void FinSurErreur(const ErreurExecution& erreur, Messages& messages, Processus& processus) {
+  messages.Informe(erreur.Rapport(), Icone::critique);
+  processus.Termine(1);
+}
+
+Application::Application(int& argc, char** argv, Messages& messages, Processus& processus)
+    : QApplication(argc, argv), messages_(messages), processus_(processus) {
+  setApplicationName(VersQt(titreApplication));
+  setApplicationDisplayName(VersQt(titreApplication));
+  setDesktopFileName(QStringLiteral("gastrelle"));
+  // The end of the program has steps of its own once its last window is gone.
+  setQuitOnLastWindowClosed(false);
+  setStyle(new StyleGastrelle);
+  // French on the screen whatever the machine's language, the toolkit's own texts included.
+  QLocale::setDefault(QLocale(QLocale::French, QLocale::France));
+  auto* francais = new QTranslator(this);
+  if (francais->load(QStringLiteral("qtbase_fr"),
+                     QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+    installTranslator(francais);
+  }
+}
+
+bool Application::notify(QObject* destinataire, QEvent* evenement) {
+  try {
+    return QApplication::notify(destinataire, evenement);
+  } catch (const ErreurExecution& erreur) {
+    FinSurErreur(erreur, messages_, processus_);
+  }
+}
+
+}  // namespace gastrelle

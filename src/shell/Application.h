@@ -1,0 +1,29 @@
+// The toolkit's application with the program's style and language, and the net under its event
+// loop.
+#pragma once
+
+#include <QApplication>
+
+#include "data/Messages.h"
+#include "plateforme/ErreurExecution.h"
+#include "plateforme/Processus.h"
+
+namespace gastrelle {
+
+/// Shows "Erreur d'exécution 'N' : " and the text, then ends the process with status 1.
+[[noreturn]] void FinSurErreur(const ErreurExecution& erreur, Messages& messages,
+                               Processus& processus);
+
+class Application : public QApplication {
+ public:
+  Application(int& argc, char** argv, Messages& messages, Processus& processus);
+
+  /// A failure that no operation guards ends the program with its report.
+  bool notify(QObject* destinataire, QEvent* evenement) override;
+
+ private:
+  Messages& messages_;
+  Processus& processus_;
+};
+
+}  // namespace gastrelle

@@ -1,0 +1,148 @@
+#include "shell/BarresCadre.h"
+
+#include <array>
+#include <stdexcept>
+
+#include <QMenuBar>
+#include <QToolButton>
+
+#include "controles/Icones.h"
+#include "shell/MenusCadre.h"
+
+namespace gastrelle {
+namespace {
+
+constexpr int tailleIcones = 24;
+
+/// What a column of the pattern switches: an entry or a submenu, and buttons.
+struct Commutes {
+  const char* entree;
+  const char* bouton;
+  const char* autreBouton;
+};
+
+constexpr std::array<Commutes, nombreColonnes> commutes{{
+    {"mnuFilePrint", "Print", nullptr},
+    {"mnuEditCut", "Couper", nullptr},
+    {"mnuEditCopy", "Copier", nullptr},
+    {"mnuEditPaste", "Coller", nullptr},
+    {"mnuEditSelect", nullptr, nullptr},
+    {"mnuEditRechercher", "Find", nullptr},
+    {"mnuEditEnvoyer", nullptr, nullptr},
+    {nullptr, "Ttx", "Notepad"},
+    {"mnuViewImage", nullptr, nullptr},
+}};
+
+}  // namespace
+
+BarresCadre::BarresCadre(QMainWindow& cadre) : barre_(new QToolBar(&cadre)) {
+  BatitMenus(cadre);
+  BatitBarre(cadre);
+}
+
+void BarresCadre::BatitMenus(QMainWindow& cadre) {
+  QMenu* menu = nullptr;
+  QMenu* sousMenu = nullptr;
+  for (const EntreeMenu& ligne : EntreesMenus()) {
+    const QString nom = QString::fromLatin1(ligne.nom);
+    const QString titre = QString::fromUtf16(ligne.titre);
+    if (ligne.rang == Rang::menu || ligne.rang == Rang::sousMenu) {
+      QMenu*& nouveau = ligne.rang == Rang::menu ? menu : sousMenu;
+      Q_ASSERT(ligne.rang == Rang::menu || menu != nullptr);  // the table opens with a menu
+      nouveau = ligne.rang == Rang::menu ? cadre.menuBar()->addMenu(titre) : menu->addMenu(titre);
+      nouveau->setObjectName(nom);
+      menus_.emplace(nom, nouveau);
+      continue;
+    }
+    if (ligne.rang == Rang::separateur) {
+      Q_ASSERT(menu != nullptr);
+      menu->addSeparator()->setObjectName(nom);
+      continue;
+    }
+    auto* entree = new QAction(titre, &cadre);
+    entree->setObjectName(nom);
+    entree->setCheckable(ligne.cochable);
+    entree->setShortcut(QKeySequence(QString::fromLatin1(ligne.touche)));
+    entree->setIcon(IconeDe(QString::fromLatin1(ligne.icone)));
+    QMenu* parent = ligne.rang == Rang::sousEntree ? sousMenu : menu;
+    Q_ASSERT(parent != nullptr);
+    parent->addAction(entree);
+    entrees_.emplace(nom, entree);
+    QObject::connect(entree, &QAction::triggered, &cadre, [this, nom](bool cochee) {
+      // The check mark is the program's to set, not the click's.
+      QAction* cliquee = entrees_.at(nom);
+      cliquee->setChecked(cliquee->isCheckable() && !cochee);
+      Execute(nom);
+    });
+  }
+}
+
+void BarresCadre::BatitBarre(QMainWindow& cadre) {
+  barre_->setObjectName(QStringLiteral("tbToolBar"));
+  barre_->setWindowTitle(QStringLiteral("Barre d'outils"));
+  barre_->setMovable(false);
+  barre_->setContextMenuPolicy(Qt::PreventContextMenu);
+  barre_->setIconSize(QSize(tailleIcones, tailleIcones));
+  cadre.addToolBar(barre_);
+  for (const BoutonBarre& ligne : BoutonsBarre()) {
+    if (ligne.debutGroupe) {
+      barre_->addSeparator();
+    }
+    const QString cle = QString::fromLatin1(ligne.cle);
+    const QString infobulle = QString::fromUtf16(ligne.infobulle);
+    QAction* bouton = barre_->addAction(IconeDe(QString::fromLatin1(ligne.icone)), infobulle);
+    bouton->setToolTip(infobulle);
+    QWidget* controle = barre_->widgetForAction(bouton);
+    controle->setObjectName(QStringLiteral("tbToolBar.") + cle);
+    controle->setAccessibleName(infobulle);
+    boutons_.emplace(cle, bouton);
+    QObject::connect(bouton, &QAction::triggered, &cadre,
+                     [this, entree = QString::fromLatin1(ligne.entree)] { Execute(entree); });
+  }
+}
+
+void BarresCadre::SurCommande(const char* entree, std::function<void()> commande) {
+  commandes_[QString::fromLatin1(entree)] = std::move(commande);
+}
+
+void BarresCadre::Execute(const QString& entree) const {
+  const auto commande = commandes_.find(entree);
+  if (commande != commandes_.end()) {
+    commande->second();
+  }
+}
+
+void BarresCadre::Applique(const Motif& motif) {
+  for (std::size_t i = 0; i < motif.size(); ++i) {
+    if (motif[i] != Etat::inchange) {
+      Permet(static_cast<Colonne>(i), motif[i] == Etat::actif);
+    }
+  }
+}
+
+void BarresCadre::Permet(Colonne colonne, bool permise) {
+  const Commutes& c = commutes[static_cast<std::size_t>(colonne)];
+  if (c.entree != nullptr) {
+    const auto menu = menus_.find(QString::fromLatin1(c.entree));
+    if (menu != menus_.end()) {
+      menu->second->setEnabled(permise);
+    } else {
+      Entree(c.entree).setEnabled(permise);
+    }
+  }
+  for (const char* bouton : {c.bouton, c.autreBouton}) {
+    if (bouton != nullptr) {
+      boutons_.at(QString::fromLatin1(bouton))->setEnabled(permise);
+    }
+  }
+}
+
+QAction& BarresCadre::Entree(const char* nom) const {
+  return *entrees_.at(QString::fromLatin1(nom));
+}
+
+QMenu& BarresCadre::Menu(const char* nom) const {
+  return *menus_.at(QString::fromLatin1(nom));
+}
+
+}  // namespace gastrelle

@@ -1,0 +1,109 @@
+#include "shell/FichierAide.h"
+
+#include <algorithm>
+
+#include <QCryptographicHash>
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QResource>
+
+#include "plateforme/ErreurExecution.h"
+
+namespace gastrelle {
+namespace {
+
+const QString racine = QStringLiteral("/gastrelle-aide");
+
+/// The build puts the hexadecimal SHA-256 of all other bytes at the end of the file.
+constexpr qsizetype longueurSceau = 64;
+
+bool SceauJuste(const QByteArray& octets) {
+  if (octets.size() <= longueurSceau) {
+    return false;
+  }
+  const QByteArray scelles = octets.chopped(longueurSceau);
+  return QCryptographicHash::hash(scelles, QCryptographicHash::Sha256).toHex() ==
+         octets.last(longueurSceau);
+}
+
+QString Fichier(const QString& sujet) {
+  return racine + u'/' + sujet + QStringLiteral(".html");
+}
+
+QByteArray LitRessource(const QString& nom) {
+  QFile fichier(u':' + nom);
+  return fichier.open(QIODevice::ReadOnly) ? fichier.readAll() : QByteArray();
+}
+
+}  // namespace
+
+std::unique_ptr<FichierAide> FichierAide::Ouvre(const QString& chemin) {
+  if (!QFileInfo(chemin).isFile()) {
+    throw ErreurExecution(Panne::fichierIntrouvable);
+  }
+  QFile fichier(chemin);
+  if (!fichier.open(QIODevice::ReadOnly)) {
+    throw ErreurExecution(Panne::accesFichier);
+  }
+  std::unique_ptr<FichierAide> aide(new FichierAide(fichier.readAll()));
+  return aide->Inscrit() && aide->LitSommaire() ? std::move(aide) : nullptr;
+}
+
+FichierAide::FichierAide(QByteArray octets) : octets_(std::move(octets)) {}
+
+FichierAide::~FichierAide() {
+  if (inscrit_) {
+    QResource::unregisterResource(reinterpret_cast<const uchar*>(octets_.constData()), racine);
+  }
+}
+
+bool FichierAide::Inscrit() {
+  // The toolkit trusts a resource's own offsets: only a file whose every byte is right gets there.
+  inscrit_ =
+      SceauJuste(octets_) &&
+      QResource::registerResource(reinterpret_cast<const uchar*>(octets_.constData()), racine);
+  return inscrit_;
+}
+
+bool FichierAide::LitSommaire() {
+  const auto chapitres =
+      QJsonDocument::fromJson(LitRessource(racine + QStringLiteral("/sommaire.json"))).array();
+  for (const auto& chapitre : chapitres) {
+    const QJsonObject objet = chapitre.toObject();
+    ChapitreAide& nouveau = sommaire_.emplace_back();
+    nouveau.titre = objet[u"titre"].toString();
+    for (const auto& page : objet[u"pages"].toArray()) {
+      nouveau.pages.push_back(
+          {page.toObject()[u"sujet"].toString(), page.toObject()[u"titre"].toString()});
+    }
+  }
+  return !sommaire_.empty() &&
+         std::all_of(sommaire_.begin(), sommaire_.end(), [](const ChapitreAide& chapitre) {
+           return std::all_of(chapitre.pages.begin(), chapitre.pages.end(),
+                              [](const PageAide& page) { return !Html(page.sujet).isEmpty(); });
+         });
+}
+
+bool FichierAide::Contient(const QString& sujet) const {
+  return std::any_of(sommaire_.begin(), sommaire_.end(), [&](const ChapitreAide& chapitre) {
+    return std::any_of(chapitre.pages.begin(), chapitre.pages.end(),
+                       [&](const PageAide& page) { return page.sujet == sujet; });
+  });
+}
+
+QUrl FichierAide::Adresse(const QString& sujet) {
+  return QUrl(QStringLiteral("qrc:") + Fichier(sujet));
+}
+
+QString FichierAide::Sujet(const QUrl& adresse) {
+  return QFileInfo(adresse.path()).completeBaseName();
+}
+
+QString FichierAide::Html(const QString& sujet) {
+  return QString::fromUtf8(LitRessource(Fichier(sujet)));
+}
+
+}  // namespace gastrelle

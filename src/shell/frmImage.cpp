@@ -1,0 +1,164 @@
+#include "shell/frmImage.h"
+
+#include <QFileInfo>
+#include <QImageReader>
+#include <QMouseEvent>
+#include <QScreen>
+#include <QTimer>
+
+#include "controles/Conversion.h"
+#include "controles/Icones.h"
+#include "controles/Touches.h"
+#include "shell/ImageAssociee.h"
+
+namespace gastrelle {
+namespace {
+
+constexpr int tailleIcones = 24;
+
+}  // namespace
+
+frmImage::frmImage(Module1& module, std::string chemin, QWidget* parent)
+    : QDialog(parent),
+      module_(module),
+      chemin_(std::move(chemin)),
+      tbToolbar_(new QToolBar(this)),
+      Picture1_(CreeVue("Picture1")),
+      Image1_(CreeVue("Image1")),
+      lblLegende_(new QLabel(this)) {
+  setObjectName(QStringLiteral("frmImage"));
+  setWindowTitle(VersQt(titreApplication) + QStringLiteral(" - Visualisateur d'images"));
+  setProperty(proprieteSujet, QStringLiteral("visualisateur"));
+  setModal(true);
+  BatitBarre();
+  lblLegende_->setObjectName(QStringLiteral("lblLegende"));
+  lblLegende_->setTextFormat(Qt::PlainText);
+  lblLegende_->setAlignment(Qt::AlignCenter);
+  Image1_->setScaledContents(true);
+  Image1_->hide();
+  if (SurLaListe()) {
+    Charge();
+  }
+}
+
+bool frmImage::SurLaListe() const {
+  constexpr std::int16_t listeDesRecettes = 11;
+  return module_.contexteActif == listeDesRecettes;
+}
+
+QLabel* frmImage::CreeVue(const char* nom) {
+  auto* vue = new QLabel(this);
+  vue->setObjectName(QLatin1String(nom));
+  vue->setToolTip(QStringLiteral("Clic sur l'image pour fermer la fenêtre"));
+  vue->setAccessibleName(QStringLiteral("Image de la recette"));
+  vue->installEventFilter(this);
+  return vue;
+}
+
+void frmImage::BatitBarre() {
+  tbToolbar_->setObjectName(QStringLiteral("tbToolbar"));
+  tbToolbar_->setIconSize(QSize(tailleIcones, tailleIcones));
+  const auto bouton = [&](const char* cle, const char* icone, const QString& infobulle,
+                          auto action) {
+    QAction* entree = tbToolbar_->addAction(IconeDe(QLatin1String(icone)), infobulle);
+    QWidget* controle = tbToolbar_->widgetForAction(entree);
+    controle->setObjectName(QStringLiteral("tbToolbar.") + QLatin1String(cle));
+    controle->setAccessibleName(infobulle);
+    controle->setFocusPolicy(Qt::TabFocus);
+    connect(entree, &QAction::triggered, this, action);
+  };
+  bouton("Copier", "camera", QStringLiteral("Ouvrir dans le visualisateur associé"),
+         [this] { OuvreImageAssociee(module_, chemin_); });
+  bouton("Aide", "aide", QStringLiteral("Aide"), [] { EnvoieF1(); });
+  bouton("Fermer", "quitter", QStringLiteral("Fermer la fenêtre"), [this] { close(); });
+  tbToolbar_->setFixedHeight(tbToolbar_->sizeHint().height());
+}
+
+bool frmImage::TropGrande(const QSize& image) const {
+  const QSize ecran = screen()->size();
+  return image.height() + 2 * tbToolbar_->height() > ecran.height() ||
+         image.width() > ecran.width();
+}
+
+void frmImage::Charge() {
+  QImageReader lecteur(VersQt(chemin_));
+  lecteur.setDecideFormatFromContent(true);
+  lecteur.setAutoTransform(true);
+  const bool couchee = lecteur.transformation().testFlag(QImageIOHandler::TransformationRotate90);
+  const auto redresse = [couchee](const QSize& t) { return couchee ? t.transposed() : t; };
+  const QSize etiree = screen()->size() - QSize(0, 3 * tbToolbar_->height());
+  QSize naturelle = redresse(lecteur.size());
+  if (naturelle.isValid() && TropGrande(naturelle)) {
+    lecteur.setScaledSize(redresse(etiree));  // a huge photograph never takes its whole memory
+  }
+  const QImage image = lecteur.read();
+  echec_ = image.isNull();
+  if (echec_) {
+    setAttribute(Qt::WA_DontShowOnScreen);  // its message alone is seen
+    return;
+  }
+  naturelle = naturelle.isValid() ? naturelle : image.size();
+  if (TropGrande(naturelle)) {
+    Picture1_->hide();
+    Montre(Image1_, image, etiree, naturelle);
+  } else {
+    Montre(Picture1_, image, naturelle, naturelle);
+  }
+}
+
+void frmImage::Montre(QLabel* vue, const QImage& image, const QSize& taille,
+                      const QSize& naturelle) {
+  vue->setPixmap(QPixmap::fromImage(image));
+  vue->resize(taille);
+  vue->show();
+  const QString legende = QStringLiteral("%1 (%2 × %3)")
+                              .arg(QFileInfo(VersQt(chemin_)).fileName())
+                              .arg(naturelle.width())
+                              .arg(naturelle.height());
+  lblLegende_->setText(fontMetrics().elidedText(legende, Qt::ElideMiddle, taille.width()));
+  resize(taille.width(), taille.height() + 2 * tbToolbar_->height());
+  move(screen()->geometry().topLeft());
+}
+
+void frmImage::resizeEvent(QResizeEvent* evenement) {
+  QDialog::resizeEvent(evenement);
+  const int h = tbToolbar_->height();
+  tbToolbar_->setGeometry(0, 0, width(), h);
+  for (QLabel* vue : {Picture1_, Image1_}) {
+    vue->move((width() - vue->width()) / 2, h);
+  }
+  lblLegende_->setGeometry(0, height() - h, width(), h);
+}
+
+void frmImage::showEvent(QShowEvent* evenement) {
+  QDialog::showEvent(evenement);
+  QTimer::singleShot(0, this, &frmImage::SurActivation);
+}
+
+void frmImage::SurActivation() {
+  module_.services.pointeur.Normal();
+  if (!echec_ || !isVisible()) {
+    return;
+  }
+  hide();
+  if (SurLaListe()) {
+    module_.services.messages.Informe("Fichier image" + std::string(CRLF) + chemin_ +
+                                          std::string(CRLF) +
+                                          std::string("non trouvé ou incompatible."_1252),
+                                      Icone::critique);
+  }
+  reject();
+}
+
+bool frmImage::eventFilter(QObject* objet, QEvent* evenement) {
+  if (evenement->type() == QEvent::MouseButtonRelease) {
+    const Qt::MouseButton bouton = static_cast<QMouseEvent*>(evenement)->button();
+    if (bouton == Qt::LeftButton || (bouton == Qt::RightButton && objet == Picture1_)) {
+      close();
+      return true;
+    }
+  }
+  return QDialog::eventFilter(objet, evenement);
+}
+
+}  // namespace gastrelle

@@ -1,0 +1,176 @@
+// The text boxes: what they accept, what they show, what they give back.
+
+#include <QClipboard>
+#include <QTest>
+#include <gtest/gtest.h>
+
+#include "controles/Conversion.h"
+#include "controles/ZoneTexte.h"
+#include "doublures/Ecran.h"
+
+namespace gastrelle::essai {
+namespace {
+
+/// Both kinds of boxes, driven alike.
+template <class Boite>
+class Boites : public testing::Test {
+ protected:
+  void Montre(int limite) {
+    boite = std::make_unique<Boite>("txtEssai", limite, nullptr);
+    boite->show();
+    boite->setFocus();
+  }
+  void Colle(const QString& texte) {
+    QApplication::clipboard()->setText(texte);
+    boite->paste();
+  }
+
+  std::unique_ptr<Boite> boite;
+};
+
+using Genres = testing::Types<ZoneTexte, LigneTexte>;
+TYPED_TEST_SUITE(Boites, Genres);
+
+TYPED_TEST(Boites, RendentTousLesOctetsQuUnFichierPeutTenir) {
+  this->Montre(sansLimite);
+  std::string octets;
+  for (int i = 0x20; i < 256; ++i) {
+    octets += static_cast<char>(i);
+  }
+  this->boite->PoseTexte(octets);
+  EXPECT_EQ(this->boite->Texte(), octets);
+}
+
+TYPED_TEST(Boites, GardentLEspaceInsecable) {
+  this->Montre(sansLimite);
+  this->boite->PoseTexte("5\xA0g");
+  EXPECT_EQ(this->boite->Texte(), "5\xA0g");
+}
+
+TYPED_TEST(Boites, MontrentUnPointDInterrogationPourCeQuiNeSeRangePas) {
+  this->Montre(sansLimite);
+  this->Colle(Fr("a日b🍲c"));
+  EXPECT_EQ(Texte(*this->boite), "a?b?c");
+}
+
+TYPED_TEST(Boites, ComposentUnAccentColle) {
+  this->Montre(sansLimite);
+  this->Colle(Fr("cre\u0301me\u0300"));
+  EXPECT_EQ(this->boite->Texte(), "crémè"_1252);
+}
+
+TYPED_TEST(Boites, ComposentUnAccentTapeApresSaLettre) {
+  this->Montre(sansLimite);
+  Tape(*this->boite, QStringLiteral("e\u0301t"));
+  EXPECT_EQ(this->boite->Texte(), "ét"_1252);
+}
+
+TYPED_TEST(Boites, NAcceptentQueJusquALeurLimite) {
+  this->Montre(5);
+  Tape(*this->boite, "abcdefg");
+  EXPECT_EQ(this->boite->Texte(), "abcde");
+}
+
+TYPED_TEST(Boites, CoupentUnCollageTropLong) {
+  this->Montre(5);
+  Tape(*this->boite, "ab");
+  this->Colle("cdefgh");
+  EXPECT_EQ(this->boite->Texte(), "abcde");
+}
+
+TYPED_TEST(Boites, MontrentEnEntierUnTextePoseParLeProgramme) {
+  this->Montre(5);
+  this->boite->PoseTexte("abcdefgh");
+  EXPECT_EQ(this->boite->Texte(), "abcdefgh");
+}
+
+TYPED_TEST(Boites, DisentLeurLimite) {
+  this->Montre(128);
+  EXPECT_EQ(this->boite->property("maxLength").toInt(), 128);
+}
+
+TYPED_TEST(Boites, RognentLesBlancsEtEuxSeuls) {
+  this->Montre(sansLimite);
+  this->boite->PoseTexte("  \xA0soupe  ");
+  this->boite->RogneTexte();
+  EXPECT_EQ(this->boite->Texte(), "\xA0soupe");
+}
+
+TYPED_TEST(Boites, EnLectureSeuleSeSelectionnentSansSeChanger) {
+  this->Montre(sansLimite);
+  this->boite->PoseTexte("soupe");
+  this->boite->RendLectureSeule();
+  Tape(*this->boite, "x");
+  this->boite->selectAll();
+  this->boite->copy();
+  EXPECT_EQ(this->boite->Texte(), "soupe");
+  EXPECT_EQ(QApplication::clipboard()->text(), "soupe");
+}
+
+TYPED_TEST(Boites, DisentQuandEllesSontVides) {
+  this->Montre(sansLimite);
+  EXPECT_TRUE(EstVide(*this->boite));
+  Tape(*this->boite, "x");
+  EXPECT_FALSE(EstVide(*this->boite));
+}
+
+class Zone : public Boites<ZoneTexte> {};
+
+TEST_F(Zone, RendLesFinsDeLigneEnDeuxCaracteres) {
+  Montre(sansLimite);
+  Tape(*boite, "a\nb");
+  EXPECT_EQ(boite->Texte(), "a\r\nb");
+}
+
+TEST_F(Zone, CompteUneFinDeLignePourDeux) {
+  Montre(5);
+  Tape(*boite, "a\nb\nc");
+  EXPECT_EQ(boite->Texte(), "a\r\nbc");  // no room for the second line break, one left for a letter
+}
+
+TEST_F(Zone, CoupeUnCollageDeLignesALaLimite) {
+  Montre(6);
+  Colle("ab\ncd\nef");
+  EXPECT_EQ(boite->Texte(), "ab\r\ncd");
+}
+
+TEST_F(Zone, UneSaisieAuMilieuDUneBoitePleineNePousseRienDehors) {
+  Montre(4);
+  Tape(*boite, "abcd");
+  boite->moveCursor(QTextCursor::Start);
+  Tape(*boite, "x");
+  EXPECT_EQ(boite->Texte(), "abcd");
+}
+
+TEST_F(Zone, UneSaisieQuiRemplaceUneSelectionTient) {
+  Montre(4);
+  Tape(*boite, "abcd");
+  boite->selectAll();
+  Tape(*boite, "x");
+  EXPECT_EQ(boite->Texte(), "x");
+}
+
+TEST_F(Zone, UneCorrectionSAnnuleAvecSaSaisie) {
+  Montre(sansLimite);
+  Tape(*boite, "a");
+  Colle(Fr("日"));
+  EXPECT_EQ(boite->Texte(), "a?");
+  boite->undo();
+  EXPECT_EQ(boite->Texte(), "a");
+}
+
+TEST_F(Zone, LaTabulationChangeDeBoite) {
+  Montre(sansLimite);
+  EXPECT_TRUE(boite->tabChangesFocus());
+}
+
+TEST_F(Zone, TrenteMilleCaracteresSeTapentEncore) {
+  Montre(30000);
+  Colle(QString(29999, u'x'));
+  Tape(*boite, "yz");
+  EXPECT_EQ(boite->Texte().size(), 30000U);
+  EXPECT_EQ(boite->Texte().back(), 'y');
+}
+
+}  // namespace
+}  // namespace gastrelle::essai

@@ -1,0 +1,256 @@
+// The small procedures around the files, and the operation guard.
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "data/ProceduresFichiers.h"
+#include "doublures/Depart.h"
+
+namespace gastrelle::essai {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class Procedures : public testing::Test {
+ protected:
+  Procedures() {
+    b.Demarre();
+    b.pointeur.sablier = true;
+  }
+
+  /// Status of the end of the process that `appel` brings; none fails the test.
+  template <class F>
+  static int FinDe(F&& appel) {
+    try {
+      appel();
+    } catch (const FinDuProgramme& fin) {
+      return fin.statut;
+    }
+    ADD_FAILURE() << "le programme continue";
+    return -1;
+  }
+
+  static MessageVu Fatal() {
+    return {std::string("Erreur fatale. Impossibilité de continuer."_1252), Icone::critique,
+            "Gastrelle 2005"};
+  }
+
+  Bibliotheque b;
+  Module1& module = *b.module;
+};
+
+TEST_F(Procedures, FichierExisteTrouveUnFichierDuDossier) {
+  EXPECT_TRUE(FichierExiste(module, "GLR1.DAT"));
+  EXPECT_FALSE(FichierExiste(module, "GLR9.DAT"));
+  EXPECT_FALSE(FichierExiste(module, "IMAGE"));
+}
+
+TEST_F(Procedures, FichierExisteDitNonSansChercherPourUnNomVide) {
+  EXPECT_FALSE(FichierExiste(module, ""));
+  EXPECT_THAT(b.disque.journal(), IsEmpty());
+}
+
+TEST_F(Procedures, FichierExisteDitNonEnSilenceQuandLaRechercheEchoue) {
+  b.disque.EchoueSur("existe", Panne::entreeSortie);
+  EXPECT_FALSE(FichierExiste(module, "GLR1.DAT"));
+  EXPECT_THAT(b.messages.vus, IsEmpty());
+  EXPECT_EQ(b.messages.bips, 0);
+  EXPECT_TRUE(b.pointeur.sablier);
+}
+
+TEST_F(Procedures, FichierExisteMsgSeTaitSurUnFichierPresent) {
+  EXPECT_TRUE(FichierExisteMsg(module, "GLR1.DAT"));
+  EXPECT_TRUE(FichierExisteMsg(module, Donnees::GLFV3));
+  EXPECT_THAT(b.messages.vus, IsEmpty());
+  EXPECT_TRUE(b.pointeur.sablier);
+}
+
+TEST_F(Procedures, FichierExisteMsgDitLeCheminDUnFichierAbsent) {
+  EXPECT_FALSE(FichierExisteMsg(module, "GLR9.DAT"));
+  EXPECT_THAT(b.messages.vus, ElementsAre(NonTrouve(b, "GLR9.DAT")));
+  EXPECT_EQ(b.messages.bips, 0);
+}
+
+TEST_F(Procedures, FichierExisteMsgRendLePointeurAvantDeParler) {
+  b.messages.pendant = [&] { EXPECT_FALSE(b.pointeur.sablier); };
+  EXPECT_FALSE(FichierExisteMsg(module, "GLR9.DAT"));
+  EXPECT_FALSE(b.pointeur.sablier);
+}
+
+TEST_F(Procedures, FichierExisteMsgParleAussiQuandLaRechercheEchoue) {
+  b.disque.EchoueSur("existe GLV2.DAT", Panne::entreeSortie);
+  EXPECT_FALSE(FichierExisteMsg(module, Donnees::GLV2));
+  EXPECT_THAT(b.messages.vus, ElementsAre(NonTrouve(b, "GLV2.DAT")));
+}
+
+TEST_F(Procedures, ExigeFichierEchoueParLErreur53) {
+  b.dossier.Supprime("GLT2.DAT");
+  try {
+    ExigeFichier(module, Donnees::GLT2);
+    ADD_FAILURE() << "aucune panne";
+  } catch (const ErreurExecution& erreur) {
+    EXPECT_EQ(erreur.numero(), 53);
+  }
+  EXPECT_THAT(b.messages.vus, ElementsAre(NonTrouve(b, "GLT2.DAT")));
+}
+
+TEST_F(Procedures, ExigeFichierOuFinFinitLeProgramme) {
+  b.dossier.Supprime("GLT2.DAT");
+  EXPECT_EQ(FinDe([&] { ExigeFichierOuFin(module, Donnees::GLT2); }), 1);
+  EXPECT_THAT(b.messages.vus, ElementsAre(NonTrouve(b, "GLT2.DAT"), Fatal()));
+}
+
+TEST_F(Procedures, ExigentEnSilenceUnFichierPresent) {
+  ExigeFichier(module, Donnees::GLT2);
+  ExigeFichierOuFin(module, Donnees::GLT2);
+  EXPECT_THAT(b.messages.vus, IsEmpty());
+}
+
+TEST_F(Procedures, DossierExisteNeTrouveQueLesDossiers) {
+  EXPECT_TRUE(DossierExiste(module, "IMAGE"));
+  EXPECT_FALSE(DossierExiste(module, "SAUVE"));
+  EXPECT_FALSE(DossierExiste(module, "GLR1.DAT"));
+}
+
+TEST_F(Procedures, DossierExisteDitNonEnSilenceQuandLaRechercheEchoue) {
+  b.disque.EchoueSur("dossier?", Panne::entreeSortie);
+  EXPECT_FALSE(DossierExiste(module, "IMAGE"));
+  EXPECT_THAT(b.messages.vus, IsEmpty());
+}
+
+TEST_F(Procedures, ImageExisteChercheDansLeDossierOuAilleurs) {
+  const DossierEssai autre;
+  autre.Ecrit("tarte.jpg", "");
+  b.dossier.Ecrit("IMAGE/soupe.jpg", "");
+  EXPECT_TRUE(ImageExiste(module, module.chemins.De("IMAGE/soupe.jpg")));
+  EXPECT_FALSE(ImageExiste(module, module.chemins.De("IMAGE/tarte.jpg")));
+  EXPECT_TRUE(ImageExiste(module, DepuisUtf8((autre.chemin() / "tarte.jpg").string())));
+  EXPECT_FALSE(ImageExiste(module, DepuisUtf8((autre.chemin() / "soupe.jpg").string())));
+}
+
+TEST_F(Procedures, ImageExisteDitNonQuandLaRechercheEchoue) {
+  b.dossier.Ecrit("IMAGE/soupe.jpg", "");
+  b.disque.EchoueSur("existe IMAGE/", Panne::entreeSortie);
+  EXPECT_FALSE(ImageExiste(module, module.chemins.De("IMAGE/soupe.jpg")));
+}
+
+TEST_F(Procedures, ErreurFataleRendLePointeurBipeParlePuisFinit) {
+  b.messages.pendant = [&] {
+    EXPECT_FALSE(b.pointeur.sablier);
+    EXPECT_EQ(b.messages.bips, 1);
+  };
+  EXPECT_EQ(FinDe([&] { ErreurFatale(module); }), 1);
+  EXPECT_THAT(b.messages.vus, ElementsAre(Fatal()));
+}
+
+TEST_F(Procedures, GardeLaissePasserUneOperationReussie) {
+  bool faite = false;
+  Garde(module, [&] { faite = true; });
+  EXPECT_TRUE(faite);
+  EXPECT_FALSE(module.erreurFatale);
+  EXPECT_FALSE(b.pointeur.sablier);
+  EXPECT_THAT(b.messages.vus, IsEmpty());
+}
+
+TEST_F(Procedures, GardeFinitLeProgrammeSurUnePanne) {
+  EXPECT_EQ(FinDe([&] { Garde(module, [] { throw ErreurExecution(Panne::disquePlein); }); }), 1);
+  EXPECT_TRUE(module.erreurFatale);
+  EXPECT_THAT(b.messages.vus, ElementsAre(Fatal()));
+}
+
+TEST_F(Procedures, FinOperationFinitLeProgrammeQuandLeDrapeauEstLeve) {
+  FinOperation(module);
+  EXPECT_FALSE(b.pointeur.sablier);
+  module.erreurFatale = true;
+  EXPECT_EQ(FinDe([&] { FinOperation(module); }), 1);
+}
+
+TEST_F(Procedures, TenteLeveLeDrapeauSansFinir) {
+  EXPECT_TRUE(Tente(module, [] {}));
+  EXPECT_FALSE(module.erreurFatale);
+  EXPECT_FALSE(Tente(module, [] { throw ErreurExecution(Panne::disquePlein); }));
+  EXPECT_TRUE(module.erreurFatale);
+  EXPECT_THAT(b.messages.vus, IsEmpty());
+  EXPECT_TRUE(Tente(module, [] {}));
+  EXPECT_TRUE(module.erreurFatale);  // a later success doesn't clear it
+}
+
+/// The four recipe files, closed as a maintenance action leaves them.
+class Reouverture : public Procedures {
+ protected:
+  Reouverture() {
+    for (const Donnees fichier : recettes) {
+      module.Place(fichier).reset();
+    }
+  }
+
+  [[nodiscard]] std::vector<Donnees> Ouverts() const {
+    std::vector<Donnees> ouverts;
+    std::copy_if(recettes.begin(), recettes.end(), std::back_inserter(ouverts),
+                 [&](Donnees fichier) { return module.Place(fichier) != nullptr; });
+    return ouverts;
+  }
+
+  /// Changes one byte of a file so that its header is bad.
+  void Abime(Donnees fichier) const {
+    std::string octets = b.dossier.Lit(Nom(fichier));
+    octets[octets.find(Signature(fichier))] = 'x';
+    b.dossier.Ecrit(Nom(fichier), octets);
+  }
+
+  static constexpr std::array recettes{Donnees::GLR1, Donnees::GLR2, Donnees::GLR3, Donnees::GLR4};
+};
+
+TEST_F(Reouverture, OuvreEtVerifieChaqueFichierAvantLeSuivant) {
+  EXPECT_TRUE(OuvreFichiersRecettes(module, true));
+  EXPECT_THAT(
+      b.disque.journal(),
+      ElementsAre("ouvre GLR1.DAT", "lit GLR1.DAT 0+130", "ouvre GLR2.DAT", "lit GLR2.DAT 0+150",
+                  "ouvre GLR3.DAT", "lit GLR3.DAT 0+8", "ouvre GLR4.DAT", "lit GLR4.DAT 0+8"));
+  EXPECT_THAT(Ouverts(), testing::ElementsAreArray(recettes));
+}
+
+TEST_F(Reouverture, NeLitRienSansVerification) {
+  for (const Donnees fichier : recettes) {
+    Abime(fichier);
+  }
+  EXPECT_TRUE(OuvreFichiersRecettes(module, false));
+  EXPECT_THAT(b.disque.journal(),
+              ElementsAre("ouvre GLR1.DAT", "ouvre GLR2.DAT", "ouvre GLR3.DAT", "ouvre GLR4.DAT"));
+}
+
+TEST_F(Reouverture, SArreteEnSilenceAuPremierMauvaisEnTete) {
+  for (const Donnees fichier : recettes) {
+    const std::string bon = b.dossier.Lit(Nom(fichier));
+    Abime(fichier);
+    EXPECT_FALSE(OuvreFichiersRecettes(module, true)) << Nom(fichier);
+    EXPECT_EQ(Ouverts().back(), fichier);
+    b.dossier.Ecrit(Nom(fichier), bon);
+    for (const Donnees autre : recettes) {
+      module.Place(autre).reset();
+    }
+  }
+  EXPECT_THAT(b.messages.vus, IsEmpty());
+  EXPECT_FALSE(module.erreurFatale);
+}
+
+TEST_F(Reouverture, ExigeAuMoinsUneFamilleEtUneRecette) {
+  for (const Donnees fichier : {Donnees::GLR1, Donnees::GLR2}) {
+    const std::string bon = b.dossier.Lit(Nom(fichier));
+    b.dossier.Ecrit(Nom(fichier), std::string(2, '\0') + bon.substr(2));
+    EXPECT_FALSE(OuvreFichiersRecettes(module, true)) << Nom(fichier);
+    b.dossier.Ecrit(Nom(fichier), bon);
+  }
+  EXPECT_TRUE(OuvreFichiersRecettes(module, true));
+}
+
+TEST_F(Reouverture, LaisseFermesLesFichiersDerriereUneOuvertureManquee) {
+  b.disque.EchoueSur("ouvre GLR3.DAT", Panne::permissionRefusee);
+  EXPECT_FALSE(OuvreFichiersRecettes(module, true));
+  EXPECT_THAT(Ouverts(), ElementsAre(Donnees::GLR1, Donnees::GLR2));
+  EXPECT_THAT(b.messages.vus, IsEmpty());
+}
+
+}  // namespace
+}  // namespace gastrelle::essai

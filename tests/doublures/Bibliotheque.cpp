@@ -1,0 +1,201 @@
+#include "doublures/Bibliotheque.h"
+
+#include <cstdlib>
+#include <fstream>
+#include <iterator>
+#include <unistd.h>
+
+#include <gtest/gtest.h>
+
+#include "data/Main.h"
+#include "data/Texte1252.h"
+
+namespace gastrelle::essai {
+namespace {
+
+template <class T>
+std::string Entete(Donnees fichier) {
+  T entete;
+  entete.actif = Ligne(fichier).moindre;
+  NomOuSignature(entete) = Signature(fichier);
+  return Octets(entete);
+}
+
+std::string FabriqueVide(Donnees fichier) {
+  switch (fichier) {
+    case Donnees::GLR1:
+    case Donnees::GLFV1:
+      return Entete<RecFamille>(fichier);
+    case Donnees::GLR2:
+      return Entete<RecRecette>(fichier);
+    case Donnees::GLF1:
+      return Entete<RecFromage>(fichier);
+    case Donnees::GLM1:
+    case Donnees::GLT1:
+      return Entete<RecFiche>(fichier);
+    case Donnees::GLV1:
+      return Entete<RecRegion>(fichier);
+    case Donnees::GLV2:
+      return Entete<RecVin>(fichier);
+    case Donnees::GLFV2:
+      return Entete<RecFavori>(fichier);
+    case Donnees::GLMV:
+      return Octets(RecMillesime{});
+    case Donnees::GLMC:
+      return std::string(nombreRayons * longueurEnregistrement<LigneRayon>, '\0');
+    default:
+      return std::string(Signature(fichier));
+  }
+}
+
+/// Adds a record behind the last one and counts it in the header.
+template <class T>
+std::int32_t AjouteCompte(const DossierEssai& dossier, const std::string& nom, const T& e) {
+  std::string octets = dossier.Lit(nom) + Octets(e);
+  T entete;
+  Decode(entete, octets.data());
+  ++entete.actif;
+  octets.replace(0, longueurEnregistrement<T>, Octets(entete));
+  dossier.Ecrit(nom, octets);
+  return static_cast<std::int32_t>(octets.size() / longueurEnregistrement<T>);
+}
+
+void AjouteTexte(const DossierEssai& dossier, const std::string& nom, std::string_view texte,
+                 ReferenceTexte reference) {
+  if (!texte.empty()) {
+    const std::string avant = dossier.Lit(nom);
+    reference.position = static_cast<std::int32_t>(avant.size()) + 1;
+    reference.longueur = static_cast<std::int32_t>(texte.size());
+    dossier.Ecrit(nom, avant + std::string(texte));
+  }
+}
+
+}  // namespace
+
+DossierEssai::DossierEssai() {
+  std::string modele = (std::filesystem::temp_directory_path() / "gastrelle-XXXXXX").string();
+  chemin_ = ::mkdtemp(modele.data());
+}
+
+DossierEssai::~DossierEssai() {
+  std::error_code ignoree;
+  std::filesystem::remove_all(chemin_, ignoree);
+}
+
+std::string DossierEssai::Lit(std::string_view nom) const {
+  std::ifstream entree(chemin_ / nom, std::ios::binary);
+  return {std::istreambuf_iterator<char>(entree), {}};
+}
+
+void DossierEssai::Ecrit(std::string_view nom, std::string_view octets) const {
+  std::ofstream(chemin_ / nom, std::ios::binary)
+      .write(octets.data(), static_cast<std::streamsize>(octets.size()));
+}
+
+bool DossierEssai::A(std::string_view nom) const {
+  return std::filesystem::exists(chemin_ / nom);
+}
+
+void DossierEssai::Supprime(std::string_view nom) const {
+  std::filesystem::remove_all(chemin_ / nom);
+}
+
+Bibliotheque::Bibliotheque() : module(NouveauModule()) {
+  for (std::size_t i = 0; i < static_cast<std::size_t>(Donnees::GLPREF); ++i) {
+    const auto fichier = static_cast<Donnees>(i);
+    dossier.Ecrit(NomFabrique(fichier), FabriqueVide(fichier));
+  }
+  // The least counts of these two are counted again as their first records come.
+  for (const Donnees fichier : {Donnees::GLR1, Donnees::GLR2}) {
+    std::string octets = dossier.Lit(NomFabrique(fichier));
+    octets[0] = 0;
+    dossier.Ecrit(NomFabrique(fichier), octets);
+  }
+  AjouteRecette(AjouteFamille("Potages"), "Velouté"_1252, "Un velouté."_1252);
+}
+
+std::string Bibliotheque::NomPresent(Donnees fichier) const {
+  return dossier.A(Nom(fichier)) ? Nom(fichier) : NomFabrique(fichier);
+}
+
+std::int32_t Bibliotheque::AjouteFamille(std::string_view nom) {
+  RecFamille famille;
+  famille.actif = vivant;
+  famille.nomFamille = nom;
+  return AjouteCompte(dossier, NomPresent(Donnees::GLR1), famille);
+}
+
+std::int32_t Bibliotheque::AjouteRecette(std::int32_t famille, std::string_view titre,
+                                         std::string_view texte, std::string_view image) {
+  RecRecette recette;
+  recette.actif = vivant;
+  recette.idFamille = famille;
+  recette.nomRecette = titre;
+  AjouteTexte(dossier, NomPresent(Donnees::GLR3), texte, {recette.posTexte, recette.lgTexte});
+  AjouteTexte(dossier, NomPresent(Donnees::GLR4), image, {recette.posImage, recette.lgImage});
+  return AjouteCompte(dossier, NomPresent(Donnees::GLR2), recette);
+}
+
+void Bibliotheque::GarnitFromages() {
+  std::string octets = FabriqueVide(Donnees::GLF1);
+  for (int numero = 2; numero <= DernierProtege(Donnees::GLF1); ++numero) {
+    RecFromage fromage;
+    fromage.actif = vivant;
+    fromage.nomFromage = "Fromage " + std::to_string(1000 + numero).substr(1);
+    fromage.lait = 1;
+    octets += Octets(fromage);
+  }
+  dossier.Ecrit(NomPresent(Donnees::GLF1), octets);
+}
+
+std::int32_t Bibliotheque::AjouteFromage(RecFromage fromage, std::string_view notes) {
+  fromage.actif = vivant;
+  AjouteTexte(dossier, NomPresent(Donnees::GLF2), notes, {fromage.posTexte, fromage.lgTexte});
+  return AjouteCompte(dossier, NomPresent(Donnees::GLF1), fromage);
+}
+
+void Bibliotheque::GarnitFiches(Donnees fiches) {
+  std::string octets = FabriqueVide(fiches);
+  for (int numero = 2; numero <= DernierProtege(fiches); ++numero) {
+    RecFiche fiche;
+    fiche.actif = vivant;
+    fiche.titre = "Fiche " + std::to_string(1000 + numero).substr(1);
+    octets += Octets(fiche);
+  }
+  dossier.Ecrit(NomPresent(fiches), octets);
+}
+
+std::int32_t Bibliotheque::AjouteFiche(Donnees fiches, std::string_view titre,
+                                       std::string_view texte) {
+  const Donnees textes = fiches == Donnees::GLM1 ? Donnees::GLM2 : Donnees::GLT2;
+  RecFiche fiche;
+  fiche.actif = vivant;
+  fiche.titre = titre;
+  AjouteTexte(dossier, NomPresent(textes), texte, {fiche.posTexte, fiche.lgTexte});
+  return AjouteCompte(dossier, NomPresent(fiches), fiche);
+}
+
+std::unique_ptr<Module1> Bibliotheque::NouveauModule() {
+  return std::make_unique<Module1>(
+      Services{disque, messages, pointeur, horloge, association, son, processus},
+      Chemins(conventionDuSysteme, DepuisUtf8(dossier.chemin().string())));
+}
+
+void Bibliotheque::Demarre() {
+  bool montre = false;
+  try {
+    Main(*module, false, [&] { montre = true; });
+  } catch (const FinDuProgramme&) {
+    ADD_FAILURE() << "le démarrage s'est arrêté : "
+                  << (messages.vus.empty() ? "" : VersUtf8(messages.vus.back().texte));
+  }
+  EXPECT_TRUE(montre);
+  disque.OublieJournal();
+}
+
+void Bibliotheque::Redemarre() {
+  module = NouveauModule();
+  Demarre();
+}
+
+}  // namespace gastrelle::essai

@@ -1,0 +1,70 @@
+// The real frame on a small library, with verbs for its tests.
+#pragma once
+
+#include <memory>
+
+#include <QAction>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenu>
+#include <QSettings>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "controles/Conversion.h"
+#include "doublures/ApplicationEssai.h"
+#include "doublures/Bibliotheque.h"
+#include "doublures/Ecran.h"
+#include "shell/frmMain.h"
+
+namespace gastrelle::essai {
+
+class ClavierEssai final : public Clavier {
+ public:
+  [[nodiscard]] std::optional<Verrous> Lit() override { return verrous; }
+
+  std::optional<Verrous> verrous;
+};
+
+class CadreVrai : public testing::Test {
+ protected:
+  CadreVrai() { QSettings(QSettings::UserScope, VersQt(titreApplication)).clear(); }
+
+  void Ouvre() {
+    b.Demarre();
+    b.module->prefs[0].sansCopie = 1;
+    OublieFin();
+    EcouteMessages(&b.messages);
+    cadre = std::make_unique<frmMain>(*b.module, clavier);
+    cadre->show();
+    QApplication::setActiveWindow(cadre.get());
+    QApplication::processEvents();
+    b.disque.OublieJournal();
+  }
+
+  template <class Controle = QWidget>
+  Controle& Le(const char* nom) {
+    return Trouve<Controle>(*cadre, nom);
+  }
+  QAction& Entree(const char* nom) { return Trouve<QAction>(*cadre, nom); }
+  /// True if an entry or a submenu can be chosen.
+  bool Permis(const char* nom) {
+    const auto* menu = cadre->findChild<QMenu*>(QString::fromLatin1(nom));
+    return menu != nullptr ? menu->isEnabled() : Entree(nom).isEnabled();
+  }
+  QWidget& BoutonBarre(const char* cle) { return Le((std::string("tbToolBar.") + cle).c_str()); }
+  /// Chooses an entry as a click would; a disabled one fails the test.
+  void Choisit(const char* nom) {
+    ASSERT_TRUE(Entree(nom).isEnabled()) << nom;
+    Entree(nom).trigger();
+    QApplication::processEvents();
+  }
+  QMdiArea& enfants() { return Le<QMdiArea>("MDIClient"); }
+  QMdiSubWindow& recettes() { return *static_cast<QMdiSubWindow*>(Le("frmRecettes").parent()); }
+
+  Bibliotheque b;
+  ClavierEssai clavier;
+  std::unique_ptr<frmMain> cadre;
+};
+
+}  // namespace gastrelle::essai

@@ -1,0 +1,106 @@
+#include "doublures/Ecran.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QTabBar>
+#include <QTest>
+
+namespace gastrelle::essai {
+namespace {
+
+QStringList TextesDe(const QAbstractItemModel& modele) {
+  QStringList textes;
+  for (int i = 0; i < modele.rowCount(); ++i) {
+    textes << modele.index(i, 0).data().toString();
+  }
+  return textes;
+}
+
+}  // namespace
+
+QStringList Textes(const QComboBox& liste) {
+  return TextesDe(*liste.model());
+}
+
+QStringList Textes(const QAbstractItemView& liste) {
+  return TextesDe(*liste.model());
+}
+
+std::vector<int> DonneesDe(const QComboBox& liste) {
+  std::vector<int> donnees;
+  for (int i = 0; i < liste.count(); ++i) {
+    donnees.push_back(liste.itemData(i).toInt());
+  }
+  return donnees;
+}
+
+void Choisit(QComboBox& liste, const QString& texte) {
+  const int indice = liste.findText(texte, Qt::MatchExactly);
+  ASSERT_GE(indice, 0) << texte.toStdString();
+  Choisit(liste, indice);
+}
+
+void Choisit(QComboBox& liste, int indice) {
+  ASSERT_TRUE(liste.isEnabled());
+  ASSERT_TRUE(liste.isVisible());
+  QTest::mouseClick(&liste, Qt::LeftButton);
+  QAbstractItemView* vue = liste.view();
+  ASSERT_TRUE(vue->isVisible());
+  const QModelIndex entree = liste.model()->index(indice, 0);
+  vue->scrollTo(entree);
+  // The list ignores the release of the click that opened it.
+  QTest::mouseMove(vue->viewport(), vue->visualRect(entree).center());
+  QTest::qWait(3 * QApplication::doubleClickInterval());
+  QTest::mouseClick(vue->viewport(), Qt::LeftButton, {}, vue->visualRect(entree).center());
+}
+
+void Clique(QWidget& controle) {
+  ASSERT_TRUE(controle.isVisible()) << controle.objectName().toStdString();
+  ASSERT_TRUE(controle.isEnabled()) << controle.objectName().toStdString();
+  QTest::mouseClick(&controle, Qt::LeftButton);
+}
+
+void CliqueOnglet(const QWidget& fenetre, int onglet) {
+  auto& onglets = Trouve<QTabBar>(fenetre, "TabStrip1");
+  ASSERT_LE(onglet, onglets.count());
+  QTest::mouseClick(&onglets, Qt::LeftButton, {}, onglets.tabRect(onglet - 1).center());
+}
+
+void Tape(QWidget& boite, const QString& texte) {
+  ASSERT_TRUE(boite.isEnabled()) << boite.objectName().toStdString();
+  for (const QChar c : texte) {
+    if (c == u'\n') {
+      QTest::keyClick(&boite, Qt::Key_Return);
+    } else {
+      QTest::sendKeyEvent(QTest::Click, &boite, Qt::Key_unknown, QString(c), Qt::NoModifier);
+    }
+  }
+}
+
+void Remplace(QWidget& boite, const QString& texte) {
+  QTest::keyClick(&boite, Qt::Key_A, Qt::ControlModifier);
+  QTest::keyClick(&boite, Qt::Key_Delete);
+  Tape(boite, texte);
+}
+
+QString Texte(const QWidget& controle) {
+  if (const auto* zone = qobject_cast<const QPlainTextEdit*>(&controle)) {
+    return zone->document()->toRawText().replace(QChar::ParagraphSeparator, QChar(u'\n'));
+  }
+  if (const auto* ligne = qobject_cast<const QLineEdit*>(&controle)) {
+    return ligne->text();
+  }
+  if (const auto* etiquette = qobject_cast<const QLabel*>(&controle)) {
+    return etiquette->text();
+  }
+  if (const auto* liste = qobject_cast<const QComboBox*>(&controle)) {
+    return liste->currentText();
+  }
+  return controle.property("text").toString();
+}
+
+QString Fr(std::string_view utf8) {
+  return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+}
+
+}  // namespace gastrelle::essai

@@ -1,0 +1,74 @@
+// A window with tabs on a small library, with the verbs that the tests of all of them use.
+#pragma once
+
+#include <algorithm>
+#include <memory>
+#include <optional>
+#include <string>
+#include <type_traits>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "controles/Conversion.h"
+#include "doublures/ApplicationEssai.h"
+#include "doublures/Bibliotheque.h"
+#include "doublures/CadreEssai.h"
+#include "doublures/Ecran.h"
+
+namespace gastrelle::essai {
+
+template <class Fenetre>
+class FenetreEssai : public testing::Test {
+ protected:
+  void Ouvre(int onglet = 1) {
+    b.Demarre();
+    OublieFin();
+    EcouteMessages(&b.messages);
+    cadre.emplace(*b.module);
+    fenetre = Cree();
+    fenetre->resize(800, 600);
+    fenetre->show();
+    fenetre->Active();
+    if (onglet != 1) {
+      CliqueOnglet(*fenetre, onglet);
+    }
+    b.disque.OublieJournal();
+  }
+
+  /// The window; tests over several windows of one kind say which.
+  virtual std::unique_ptr<Fenetre> Cree() {
+    if constexpr (std::is_constructible_v<Fenetre, Module1&, gastrelle::Cadre&>) {
+      return std::make_unique<Fenetre>(*b.module, *cadre);
+    } else {
+      return nullptr;
+    }
+  }
+
+  template <class Controle = QWidget>
+  Controle& Le(const char* nom) {
+    return Trouve<Controle>(*fenetre, nom);
+  }
+  int onglet() { return Le<QTabBar>("TabStrip1").currentIndex() + 1; }
+  bool aLeFocus(const char* nom) { return fenetre->focusWidget() == &Le(nom); }
+
+  /// The one message that was shown, with the application's title.
+  void AttendMessage(std::string_view utf8, Icone icone = Icone::information) const {
+    EXPECT_THAT(b.messages.vus, testing::ElementsAre(MessageVu{DepuisUtf8(utf8), icone,
+                                                               std::string(titreApplication)}));
+  }
+  /// The program ended by the fatal message, which came once.
+  void AttendFinFatale() const {
+    EXPECT_EQ(FinVue(), 1);
+    const auto fatal = DepuisUtf8("Erreur fatale. Impossibilité de continuer.");
+    EXPECT_EQ(std::count_if(b.messages.vus.begin(), b.messages.vus.end(),
+                            [&](const MessageVu& m) { return m.texte == fatal; }),
+              1);
+  }
+
+  Bibliotheque b;
+  std::optional<CadreEssai> cadre;
+  std::unique_ptr<Fenetre> fenetre;
+};
+
+}  // namespace gastrelle::essai

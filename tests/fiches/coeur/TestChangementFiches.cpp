@@ -1,0 +1,280 @@
+// Changing menus and tips: the bytes on file after each operation, the order of the writes, and
+// what survives a failure at each of them.
+
+#include <gmock/gmock.h>
+
+#include "doublures/Pannes.h"
+#include "fiches/FichesEssai.h"
+
+namespace gastrelle::essai {
+namespace {
+
+using testing::Contains;
+using testing::Each;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Not;
+
+class ChangementDesFiches : public testing::TestWithParam<CatalogueEssai> {
+ protected:
+  ChangementDesFiches() { b.GarnitFiches(c.fiches); }
+
+  void Demarre() {
+    b.Demarre();
+    catalogue.emplace(*b.module, c.fichiers);
+  }
+  /// Starts with "Noce" on display, the first record that can be deleted; its text is the ten bytes
+  /// behind the signature.
+  void DemarreSurNoce() {
+    b.AjouteFiche(c.fiches, "Noce", "Dix octets");
+    Demarre();
+    Affiche(premiere);
+  }
+  void Affiche(std::int32_t numero) {
+    static_cast<void>(catalogue->LitTexte(numero));
+    b.disque.OublieJournal();
+  }
+  RecFiche Lue(std::int32_t numero) const { return Fiche(b, c, numero); }
+  std::string Reserve(std::string_view textes) const { return Nom(c.textes) + std::string(textes); }
+  static RecFiche Attendue(std::string_view titre, std::int32_t position, std::int32_t longueur) {
+    RecFiche fiche;
+    fiche.actif = -1;
+    fiche.titre = titre;
+    fiche.posTexte = position;
+    fiche.lgTexte = longueur;
+    return fiche;
+  }
+
+  const CatalogueEssai& c = GetParam();
+  const std::int32_t premiere = c.dernierProtege + 1;
+  Bibliotheque b;
+  std::optional<CatalogueFiches> catalogue;
+};
+
+INSTANTIATE_TEST_SUITE_P(Coeur, ChangementDesFiches, testing::Values(lesMenus, lesTrucs),
+                         testing::PrintToStringParamName());
+
+TEST_P(ChangementDesFiches, AjouteReserveDabordPuisFichePuisEntete) {
+  Demarre();
+  EXPECT_EQ(catalogue->Ajoute("Noce", "Du vin."), premiere);
+  EXPECT_THAT(b.disque.changements(),
+              ElementsAre(EcritTexte(c, 8, 7), EcritFiche(c, premiere), EcritFiche(c, 1)));
+  EXPECT_EQ(Octets(Lue(premiere)), Octets(Attendue("Noce", 9, 7)));
+  EXPECT_EQ(b.dossier.Lit(Nom(c.fiches)).size(), static_cast<std::size_t>(premiere) * 138U);
+  EXPECT_EQ(Textes(b, c), Reserve("Du vin."));
+}
+
+TEST_P(ChangementDesFiches, UnAjoutCompteLaFicheEtGardeLaSignature) {
+  Demarre();
+  catalogue->Ajoute("Noce", "Du vin.");
+  EXPECT_EQ(catalogue->Nombre(), c.dernierProtege);
+  EXPECT_EQ(Compte(b, c), c.dernierProtege);
+  EXPECT_EQ(TitreFiche(b, c, 1), Nom(c.fiches));
+}
+
+TEST_P(ChangementDesFiches, ExigeSesFichiersAvantDeRienEcrire) {
+  Demarre();
+  catalogue->Ajoute("Noce", "Du vin.");
+  EXPECT_EQ(b.disque.journal()[0], "existe " + Nom(c.fiches));
+  EXPECT_EQ(b.disque.journal()[1], "existe " + Nom(c.textes));
+}
+
+TEST_P(ChangementDesFiches, UnAjoutSansTexteNeToucheNiNeDemandeLaReserve) {
+  DemarreSurNoce();
+  b.dossier.Supprime(Nom(c.textes));
+  EXPECT_EQ(catalogue->Ajoute("Nue", {}), premiere + 1);
+  EXPECT_THAT(b.disque.journal(), Each(Not(HasSubstr(Nom(c.textes)))));
+  EXPECT_EQ(Octets(Lue(premiere + 1)), Octets(Attendue("Nue", 0, 0)));
+}
+
+TEST_P(ChangementDesFiches, UnAjoutAvecTexteSansReserveEchoueSansRienEcrire) {
+  Demarre();
+  b.dossier.Supprime(Nom(c.textes));
+  EXPECT_THROW(catalogue->Ajoute("Noce", "Du vin."), ErreurExecution);
+  EXPECT_THAT(b.disque.changements(), IsEmpty());
+  EXPECT_EQ(b.messages.vus.size(), 1U);
+}
+
+TEST_P(ChangementDesFiches, LeMemeTitreSAjouteDeuxFois) {
+  Demarre();
+  EXPECT_EQ(catalogue->Ajoute("Noce", {}), premiere);
+  EXPECT_EQ(catalogue->Ajoute("Noce", {}), premiere + 1);
+  EXPECT_EQ(TitreFiche(b, c, premiere), TitreFiche(b, c, premiere + 1));
+}
+
+TEST_P(ChangementDesFiches, UneFicheNouvelleVaALaFinMemeApresUneSuppression) {
+  DemarreSurNoce();
+  catalogue->Supprime(premiere);
+  EXPECT_EQ(catalogue->Ajoute("Fiancailles", {}), premiere + 1);
+  EXPECT_EQ(TitreFiche(b, c, premiere), "Noce");
+}
+
+TEST_P(ChangementDesFiches, UnTexteDeMemeLongueurSeRemplaceEnPlace) {
+  DemarreSurNoce();
+  catalogue->Change(premiere, "Noces", "dIX OCTETS");
+  EXPECT_THAT(b.disque.changements(), ElementsAre(EcritTexte(c, 8, 10), EcritFiche(c, premiere)));
+  EXPECT_EQ(Octets(Lue(premiere)), Octets(Attendue("Noces", 9, 10)));
+  EXPECT_EQ(Textes(b, c), Reserve("dIX OCTETS"));
+}
+
+TEST_P(ChangementDesFiches, UnTextePlusCourtGardeSaPositionEtLaisseSaQueue) {
+  DemarreSurNoce();
+  catalogue->Change(premiere, "Noce", "Bref");
+  EXPECT_EQ(Octets(Lue(premiere)), Octets(Attendue("Noce", 9, 4)));
+  EXPECT_EQ(Textes(b, c), Reserve("Brefoctets"));
+}
+
+TEST_P(ChangementDesFiches, UnTexteDUnCaractereDePlusPasseALaFin) {
+  DemarreSurNoce();
+  catalogue->Change(premiere, "Noce", "Onze octets");
+  EXPECT_EQ(Octets(Lue(premiere)), Octets(Attendue("Noce", 19, 11)));
+  EXPECT_EQ(Textes(b, c), Reserve("Dix octetsOnze octets"));
+}
+
+TEST_P(ChangementDesFiches, UnTexteVidePerdSaReferenceSansToucherLaReserve) {
+  DemarreSurNoce();
+  b.disque.EchoueSur("existe " + Nom(c.textes), Panne::permissionRefusee);
+  catalogue->Change(premiere, "Noce", {});
+  EXPECT_THAT(b.disque.changements(), ElementsAre(EcritFiche(c, premiere)));
+  EXPECT_EQ(Octets(Lue(premiere)), Octets(Attendue("Noce", 0, 0)));
+  EXPECT_EQ(Textes(b, c), Reserve("Dix octets"));
+}
+
+TEST_P(ChangementDesFiches, UnTexteRenduApresAvoirEteVidePasseALaFin) {
+  DemarreSurNoce();
+  catalogue->Change(premiere, "Noce", {});
+  catalogue->Change(premiere, "Noce", "x");
+  EXPECT_EQ(Octets(Lue(premiere)), Octets(Attendue("Noce", 19, 1)));
+}
+
+TEST_P(ChangementDesFiches, LAncienneReferenceEstCelleDeLaFicheDeTravail) {
+  DemarreSurNoce();
+  (*b.module.*c.fichiers.tampon).courant().lgTexte = 3;
+  catalogue->Change(premiere, "Noce", "Bref");
+  EXPECT_EQ(Lue(premiere).posTexte, 19);
+  EXPECT_THAT(b.disque.journal(), Not(Contains(HasSubstr("lit " + Nom(c.fiches)))));
+}
+
+TEST_P(ChangementDesFiches, UneModificationNeChangePasLeCompte) {
+  DemarreSurNoce();
+  catalogue->Change(premiere, "Noces", "Bref");
+  EXPECT_EQ(Compte(b, c), c.dernierProtege);
+}
+
+TEST_P(ChangementDesFiches, UneFicheProtegeeSeModifie) {
+  Demarre();
+  Affiche(c.dernierProtege);
+  catalogue->Change(c.dernierProtege, "Autre", "Du vin.");
+  EXPECT_EQ(Octets(Lue(c.dernierProtege)), Octets(Attendue("Autre", 9, 7)));
+}
+
+TEST_P(ChangementDesFiches, UneModificationRendVivanteUneFicheEteinte) {
+  DemarreSurNoce();
+  catalogue->Supprime(premiere);
+  catalogue->Change(premiere, "Noce", "Bref");
+  EXPECT_EQ(Lue(premiere).actif, -1);
+}
+
+TEST_P(ChangementDesFiches, ModifierUneFicheSansSonFichierEchoueSansRienEcrire) {
+  DemarreSurNoce();
+  b.dossier.Supprime(Nom(c.fiches));
+  EXPECT_THROW(catalogue->Change(premiere, "Noce", "Bref"), ErreurExecution);
+  EXPECT_THAT(b.disque.changements(), IsEmpty());
+}
+
+TEST_P(ChangementDesFiches, SupprimeEnNEffacantQueLeDrapeau) {
+  DemarreSurNoce();
+  RecFiche attendue = Lue(premiere);
+  attendue.actif = 0;
+  catalogue->Supprime(premiere);
+  EXPECT_THAT(b.disque.changements(), ElementsAre(EcritFiche(c, premiere), EcritFiche(c, 1)));
+  EXPECT_EQ(Octets(Lue(premiere)), Octets(attendue));
+  EXPECT_EQ(Compte(b, c), c.dernierProtege - 1);
+  EXPECT_EQ(Textes(b, c), Reserve("Dix octets"));
+}
+
+TEST_P(ChangementDesFiches, SupprimerRelitLaFicheEtNeDemandePasLaReserve) {
+  DemarreSurNoce();
+  Affiche(2);
+  b.dossier.Supprime(Nom(c.textes));
+  catalogue->Supprime(premiere);
+  EXPECT_EQ(TitreFiche(b, c, premiere), "Noce");
+  EXPECT_EQ(b.disque.journal().front(), "existe " + Nom(c.fiches));
+}
+
+TEST_P(ChangementDesFiches, ToutesLesAutresSupprimeesLeFichierGardeSaLongueur) {
+  DemarreSurNoce();
+  const std::int32_t seconde = catalogue->Ajoute("Fete", {});
+  const std::size_t longueur = b.dossier.Lit(Nom(c.fiches)).size();
+  catalogue->Supprime(premiere);
+  catalogue->Supprime(seconde);
+  EXPECT_EQ(Compte(b, c), c.dernierProtege - 1);
+  EXPECT_EQ(b.dossier.Lit(Nom(c.fiches)).size(), longueur);
+}
+
+TEST_P(ChangementDesFiches, LeCompteQuiNeTientPlusEstUnePanne) {
+  Demarre();
+  PoseCompte(b, Nom(c.fiches), 32767);
+  (*b.module.*c.fichiers.tampon).LireEntete();
+  EXPECT_THROW(catalogue->Ajoute("Trop", {}), ErreurExecution);
+}
+
+// What stands on file when a write fails: a text without a reference, a record without its count,
+// never a reference to a text that isn't there.
+TEST_P(ChangementDesFiches, UnAjoutQuiEchoueNeLaisseJamaisDeReferenceSansTexte) {
+  EchoueAChaqueEcriture(
+      3, [&](Bibliotheque& avec) { avec.GarnitFiches(c.fiches); },
+      [&](Bibliotheque& avec) {
+        CatalogueFiches(*avec.module, c.fichiers).Ajoute("Noce", "Du vin rouge");
+      },
+      [&](const Bibliotheque& avec, std::size_t n, Maniere maniere) {
+        const bool moitie = maniere == Maniere::moitieEcrite;
+        const std::size_t fiches = avec.dossier.Lit(Nom(c.fiches)).size();
+        const auto avant = static_cast<std::size_t>(c.dernierProtege) * 138U;
+        EXPECT_EQ(Textes(avec, c).size(), n > 1 ? 20U : moitie ? 14U : 8U);
+        EXPECT_EQ(fiches - avant, n > 2 ? 138U : n == 2 && moitie ? 69U : 0U);
+        if (!(n == 3 && moitie)) {
+          EXPECT_EQ(Compte(avec, c), c.dernierProtege - 1);
+        }
+      });
+}
+
+TEST_P(ChangementDesFiches, UneModificationQuiEchoueLaisseLAncienneReference) {
+  EchoueAChaqueEcriture(
+      2,
+      [&](Bibliotheque& avec) {
+        avec.GarnitFiches(c.fiches);
+        avec.AjouteFiche(c.fiches, "Noce", "Dix octets");
+      },
+      [&](Bibliotheque& avec) {
+        CatalogueFiches lu(*avec.module, c.fichiers);
+        static_cast<void>(lu.LitTexte(premiere));
+        lu.Change(premiere, "Noces", "Un texte bien plus long");
+      },
+      [&](const Bibliotheque& avec, std::size_t, Maniere) {
+        EXPECT_EQ(Fiche(avec, c, premiere).posTexte, 9);
+        EXPECT_EQ(Fiche(avec, c, premiere).lgTexte, 10);
+        EXPECT_EQ(Textes(avec, c).substr(8, 10), "Dix octets");
+      });
+}
+
+TEST_P(ChangementDesFiches, UneSuppressionQuiEchoueGardeCeQuiEstDejaEcrit) {
+  EchoueAChaqueEcriture(
+      2,
+      [&](Bibliotheque& avec) {
+        avec.GarnitFiches(c.fiches);
+        avec.AjouteFiche(c.fiches, "Noce");
+      },
+      [&](Bibliotheque& avec) { CatalogueFiches(*avec.module, c.fichiers).Supprime(premiere); },
+      [&](const Bibliotheque& avec, std::size_t n, Maniere maniere) {
+        if (maniere == Maniere::rienFait) {
+          EXPECT_EQ(Fiche(avec, c, premiere).actif, n > 1 ? 0 : -1);
+          EXPECT_EQ(Compte(avec, c), c.dernierProtege);
+        }
+        EXPECT_EQ(TitreFiche(avec, c, premiere), "Noce");
+      });
+}
+
+}  // namespace
+}  // namespace gastrelle::essai

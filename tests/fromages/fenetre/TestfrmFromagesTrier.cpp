@@ -1,0 +1,218 @@
+// The tab "Trier" of the cheeses window, through its controls.
+
+#include <QTest>
+
+#include "fromages/fenetre/FenetreFromages.h"
+
+namespace gastrelle::essai {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class TrierLesFromages : public FenetreFromages {
+ protected:
+  /// Opens the tab with two goat's cheeses, "Banon" (124) and "Valençay" (125), and no ewe's.
+  void OuvreAvecDeuxChevres() {
+    b.AjouteFromage(Fromage("Valençay"_1252, "Berry", 2));
+    b.AjouteFromage(Fromage("banon", "Provence", 2));
+    b.AjouteFromage(Fromage("Sans lait"));
+    Ouvre(5);
+  }
+  QComboBox& lait() { return Le<QComboBox>("ComboLaitTrier"); }
+  QListView& liste() { return Le<QListView>("List1"); }
+  void DoubleClique(int rang) {
+    const QPoint ou = liste().visualRect(liste().model()->index(rang, 0)).center();
+    QTest::mouseClick(liste().viewport(), Qt::LeftButton, {}, ou);
+    QTest::mouseDClick(liste().viewport(), Qt::LeftButton, {}, ou);
+  }
+  /// The pictures that can be seen.
+  QStringList Images() {
+    QStringList vues;
+    for (const char* nom :
+         {"PictureSouris", "PictureAnimal(0)", "PictureAnimal(1)", "PictureAnimal(2)"}) {
+      if (Le(nom).isVisible()) {
+        vues << nom;
+      }
+    }
+    return vues;
+  }
+  void AttendPageDeDepart() {
+    EXPECT_FALSE(liste().isVisible());
+    EXPECT_THAT(Textes(liste()), IsEmpty());
+    EXPECT_FALSE(Le("cmdActiver").isVisible());
+    EXPECT_EQ(Images(), QStringList{"PictureSouris"});
+    EXPECT_TRUE(aLeFocus("ComboLaitTrier"));
+  }
+};
+
+TEST_F(TrierLesFromages, CommenceSansLaitChoisi) {
+  OuvreAvecDeuxChevres();
+  EXPECT_EQ(Textes(lait()), (QStringList{"?", "Vache", Fr("Chèvre"), "Brebis"}));
+  EXPECT_EQ(lait().currentText(), "?");
+  AttendPageDeDepart();
+}
+
+TEST_F(TrierLesFromages, ListeLesFromagesDuLaitDansLOrdreAlphabetique) {
+  OuvreAvecDeuxChevres();
+  Choisit(lait(), 2);
+  EXPECT_TRUE(liste().isVisible());
+  EXPECT_EQ(Textes(liste()), (QStringList{"banon", Fr("Valençay")}));
+  EXPECT_EQ(liste().model()->index(0, 0).data(Qt::UserRole).toInt(), 125);
+  EXPECT_EQ(liste().currentIndex().row(), 0);
+  EXPECT_TRUE(Le("cmdActiver").isVisible());
+  EXPECT_EQ(Images(), QStringList{"PictureAnimal(1)"});
+  EXPECT_FALSE(b.pointeur.sablier);
+}
+
+TEST_F(TrierLesFromages, ChaqueLaitASonAnimal) {
+  b.AjouteFromage(Fromage("Ossau-iraty", "", 3));
+  Ouvre(5);
+  Choisit(lait(), 1);
+  EXPECT_EQ(Images(), QStringList{"PictureAnimal(0)"});
+  EXPECT_EQ(liste().model()->rowCount(), 122);
+  Choisit(lait(), 3);
+  EXPECT_EQ(Images(), QStringList{"PictureAnimal(2)"});
+  EXPECT_EQ(Textes(liste()), QStringList{"Ossau-iraty"});
+}
+
+TEST_F(TrierLesFromages, UnLaitSansFromageLeDitEtRevientAuDepart) {
+  OuvreAvecDeuxChevres();
+  Choisit(lait(), 2);
+  bool sablierPendant = true;
+  b.messages.pendant = [&] { sablierPendant = b.pointeur.sablier; };
+  Choisit(lait(), 3);
+  AttendMessage("Aucun fromage mémorisé", Icone::aucune);
+  EXPECT_FALSE(sablierPendant);
+  AttendPageDeDepart();
+  EXPECT_EQ(lait().currentText(), "Brebis");
+}
+
+TEST_F(TrierLesFromages, SansLaitRienNEstListeMemeUnFromageSansLait) {
+  OuvreAvecDeuxChevres();
+  Choisit(lait(), 2);
+  Choisit(lait(), 0);
+  AttendPageDeDepart();
+  EXPECT_THAT(b.messages.vus, IsEmpty());
+}
+
+TEST_F(TrierLesFromages, RevenirSurLOngletRepartSansLait) {
+  OuvreAvecDeuxChevres();
+  Choisit(lait(), 2);
+  CliqueOnglet(*fenetre, 1);
+  CliqueOnglet(*fenetre, 5);
+  EXPECT_EQ(lait().currentText(), "?");
+  AttendPageDeDepart();
+}
+
+TEST_F(TrierLesFromages, LeTriLaisseLeFromageAffiche) {
+  OuvreAvecDeuxChevres();
+  Choisit(lait(), 1);
+  EXPECT_EQ(Rogne(b.module->bufFromage.courant().nomFromage.brut()), "banon");
+  CliqueOnglet(*fenetre, 1);
+  CliqueOnglet(*fenetre, 3);
+  EXPECT_EQ(Texte(Le("ComboLaitModifier")), Fr("Chèvre"));
+}
+
+TEST_F(TrierLesFromages, LeTriRepareLeCompte) {
+  Ouvre(5);
+  b.module->bufFromage.nbActifs() = 130;
+  Choisit(lait(), 1);
+  EXPECT_THAT(b.disque.changements(), ElementsAre("écrit GLF1.DAT 0+208"));
+  EXPECT_EQ(FicheFromage(b, 1).actif, 122);
+}
+
+TEST_F(TrierLesFromages, UneReparationQuiEchoueEstIgnoree) {
+  Ouvre(5);
+  b.module->bufFromage.nbActifs() = 130;
+  b.disque.EchoueSur("écrit", Panne::disquePlein);
+  Choisit(lait(), 1);
+  EXPECT_FALSE(FinVue());
+  EXPECT_EQ(liste().model()->rowCount(), 122);
+}
+
+TEST_F(TrierLesFromages, UneLectureQuiEchoueFinitLeProgramme) {
+  Ouvre(5);
+  b.disque.EchoueSur("lit GLF1.DAT", Panne::entreeSortie);
+  Choisit(lait(), 1);
+  AttendFinFatale();
+}
+
+TEST_F(TrierLesFromages, LeBoutonAfficheLeFromageChoisi) {
+  OuvreAvecDeuxChevres();
+  Choisit(lait(), 2);
+  QTest::keyClick(&liste(), Qt::Key_Down);
+  Clique(Le("cmdActiver"));
+  EXPECT_EQ(onglet(), 1);
+  EXPECT_EQ(fromages().currentData().toInt(), 124);
+  EXPECT_EQ(Champs("ComboFromages", "").mid(0, 3),
+            (QStringList{Fr("Valençay"), "Berry", Fr("Chèvre")}));
+  EXPECT_TRUE(aLeFocus("txtRegion"));
+}
+
+TEST_F(TrierLesFromages, UnDoubleClicAfficheLeFromage) {
+  OuvreAvecDeuxChevres();
+  Choisit(lait(), 2);
+  DoubleClique(1);
+  EXPECT_EQ(onglet(), 1);
+  EXPECT_EQ(fromages().currentText(), Fr("Valençay"));
+}
+
+TEST_F(TrierLesFromages, UnFromageQueLaListeNAPasNAfficheRien) {
+  OuvreAvecDeuxChevres();
+  RecFromage cache = Fromage("Rocamadour", "", 2);
+  cache.actif = -1;
+  b.module->bufFromage.Ecrire(127, cache);
+  b.module->bufFromage.nbActifs() = 126;
+  Choisit(lait(), 2);
+  DoubleClique(1);
+  EXPECT_EQ(onglet(), 5);
+  EXPECT_FALSE(FinVue());
+}
+
+TEST_F(TrierLesFromages, LesOngletsModifierEtSupprimerSontRefusesAvecLeSon) {
+  Ouvre(5);
+  const std::string son = VersUtf8(b.module->chemins.De("Exclamation"));
+  CliqueOnglet(*fenetre, 3);
+  EXPECT_EQ(onglet(), 5);
+  CliqueOnglet(*fenetre, 4);
+  EXPECT_EQ(onglet(), 5);
+  EXPECT_TRUE(Le("Frame1(5)").isVisible());
+  EXPECT_THAT(b.son.joues, ElementsAre(son, son));
+  EXPECT_THAT(b.messages.vus, IsEmpty());
+  EXPECT_EQ(b.module->contexteActif, 25);
+}
+
+TEST_F(TrierLesFromages, LesOngletsListeEtAjouterSontPermis) {
+  Ouvre(5);
+  CliqueOnglet(*fenetre, 2);
+  EXPECT_EQ(onglet(), 2);
+  CliqueOnglet(*fenetre, 5);
+  CliqueOnglet(*fenetre, 1);
+  EXPECT_EQ(onglet(), 1);
+  EXPECT_THAT(b.son.joues, IsEmpty());
+}
+
+TEST_F(TrierLesFromages, LAffichageDitLeLaitEtSesFromages) {
+  OuvreAvecDeuxChevres();
+  Choisit(lait(), 2);
+  const auto vue = std::get<VueFromagesTries>(fenetre->VueCourante());
+  EXPECT_EQ(vue.lait, "Chèvre"_1252);
+  EXPECT_THAT(vue.fromages, ElementsAre("banon", std::string("Valençay"_1252)));
+}
+
+TEST_F(TrierLesFromages, SansLaitChoisiLAffichageNEnDitAucun) {
+  Ouvre(5);
+  const auto vue = std::get<VueFromagesTries>(fenetre->VueCourante());
+  EXPECT_EQ(vue.lait, "");
+  EXPECT_THAT(vue.fromages, IsEmpty());
+}
+
+TEST_F(TrierLesFromages, LesInfobullesDisentQuoiFaire) {
+  Ouvre(5);
+  EXPECT_EQ(Le("List1").toolTip(), Fr("Double-clic pour afficher la sélection"));
+  EXPECT_EQ(Le("cmdActiver").toolTip(), Fr("Afficher le fromage sélectionné"));
+}
+
+}  // namespace
+}  // namespace gastrelle::essai

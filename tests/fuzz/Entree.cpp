@@ -1,0 +1,89 @@
+#include "fuzz/Entree.h"
+
+#include <algorithm>
+
+namespace gastrelle::essai {
+namespace {
+
+/// The header of a catalogue or the head of a pool, as the start wants it.
+std::string Tete(Module1& module, Donnees fichier, std::int16_t compte) {
+  if (Ligne(fichier).controle == Controle::signature) {
+    return std::string(Signature(fichier));
+  }
+  std::string tete;
+  module.AvecCatalogue(fichier, [&](auto& catalogue) {
+    auto entete = catalogue.entete();
+    entete.actif = std::max(compte, Ligne(fichier).moindre);
+    NomOuSignature(entete) = Signature(fichier);
+    const auto octets = Code(entete);
+    tete.assign(octets.data(), octets.size());
+  });
+  return tete;
+}
+
+/// A file that nobody replaced: its head, and what the start reads behind it.
+std::string Ordinaire(Module1& module, Donnees fichier) {
+  switch (fichier) {
+    case Donnees::GLMV:
+      return std::string(longueurEnregistrement<RecMillesime>, '\0');
+    case Donnees::GLMC:
+      return std::string(nombreRayons * longueurEnregistrement<LigneRayon>, '\0');
+    case Donnees::GLPREF:
+      return std::string(longueurEnregistrement<RecPreferences>, '\0');
+    default:
+      return Tete(module, fichier, 0);
+  }
+}
+
+std::string Remplace(Module1& module, Donnees fichier, std::string_view octets, bool garde) {
+  if (!garde) {
+    return std::string(octets);
+  }
+  Lecteur lecteur(octets);
+  const bool compte = Ligne(fichier).controle == Controle::entete;
+  const auto nombre = static_cast<std::int16_t>(compte ? lecteur.Mot() : 0U);
+  return Tete(module, fichier, nombre) + std::string(lecteur.Morceau(octets.size()));
+}
+
+}  // namespace
+
+unsigned Lecteur::Octet() {
+  const std::string_view un = Morceau(1);
+  return un.empty() ? 0U : static_cast<unsigned char>(un.front());
+}
+
+unsigned Lecteur::Mot() {
+  const unsigned bas = Octet();
+  return bas | (Octet() << 8U);
+}
+
+std::string_view Lecteur::Morceau(std::size_t longueur) {
+  const std::string_view morceau = octets_.substr(0, longueur);
+  octets_.remove_prefix(morceau.size());
+  return morceau;
+}
+
+void PoseDossier(std::string_view entree, Module1& module, DisqueMemoire& disque) {
+  Lecteur lecteur(entree);
+  const unsigned choix = lecteur.Octet();
+  const unsigned remplaces = lecteur.Mot() | (lecteur.Octet() << 16U);
+  disque.EchoueALAppel(lecteur.Mot());
+  for (std::size_t i = 0; i < nombreFichiers; ++i) {
+    const auto fichier = static_cast<Donnees>(i);
+    const bool copie = (choix & enFabrique) != 0 && fichier != Donnees::GLPREF;
+    const std::string nom = copie ? NomFabrique(fichier) : Nom(fichier);
+    if ((remplaces >> i & 1U) == 0) {
+      disque.Pose(nom, Ordinaire(module, fichier));
+    } else if (const unsigned longueur = lecteur.Mot(); longueur != absent) {
+      disque.Pose(
+          nom, Remplace(module, fichier, lecteur.Morceau(longueur), (choix & gardeEntetes) != 0));
+    }
+  }
+  if ((choix & avecImages) != 0) {
+    disque.PoseDossier("IMAGE");
+    disque.Pose(imageDuDossier, "x");
+    disque.PoseAilleurs(imageAilleurs);
+  }
+}
+
+}  // namespace gastrelle::essai

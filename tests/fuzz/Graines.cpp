@@ -1,0 +1,218 @@
+#include "fuzz/Graines.h"
+
+#include <array>
+#include <limits>
+#include <map>
+
+#include "data/Texte1252.h"
+#include "fuzz/Entree.h"
+
+namespace gastrelle::essai {
+namespace {
+
+constexpr std::int32_t demesure = std::numeric_limits<std::int32_t>::max();
+
+std::string Mot(unsigned valeur) {
+  return {static_cast<char>(valeur & 0xFFU), static_cast<char>(valeur >> 8U & 0xFFU)};
+}
+
+template <class T>
+std::string Octets(const T& enregistrement) {
+  const auto octets = Code(enregistrement);
+  return {octets.data(), octets.size()};
+}
+
+std::string Famille(std::string_view nom) {
+  RecFamille famille;
+  famille.actif = vivant;
+  famille.nomFamille = nom;
+  return Octets(famille);
+}
+
+std::string Recette(std::int32_t famille, std::string_view titre, LigneRayon texte = {},
+                    LigneRayon image = {}) {
+  RecRecette recette;
+  recette.actif = vivant;
+  recette.idFamille = famille;
+  recette.nomRecette = titre;
+  recette.posTexte = texte.posTexte;
+  recette.lgTexte = texte.lgTexte;
+  recette.posImage = image.posTexte;
+  recette.lgImage = image.lgTexte;
+  return Octets(recette);
+}
+
+/// The bytes of an input, file by file. Those of a file with a header begin with its count.
+struct Dossier {
+  unsigned choix = gardeEntetes;
+  unsigned panne = 0;
+  std::map<Donnees, std::string> fichiers;
+  std::map<Donnees, bool> absents;
+
+  [[nodiscard]] std::string octets() const {
+    unsigned remplaces = 0;
+    std::string morceaux;
+    for (std::size_t i = 0; i < nombreFichiers; ++i) {
+      const auto fichier = static_cast<Donnees>(i);
+      if (absents.contains(fichier)) {
+        remplaces |= 1U << i;
+        morceaux += Mot(absent);
+      } else if (const auto trouve = fichiers.find(fichier); trouve != fichiers.end()) {
+        remplaces |= 1U << i;
+        morceaux += Mot(static_cast<unsigned>(trouve->second.size())) + trouve->second;
+      }
+    }
+    return std::string{static_cast<char>(choix)} + Mot(remplaces & 0xFFFFU) +
+           std::string{static_cast<char>(remplaces >> 16U)} + Mot(panne) + morceaux;
+  }
+};
+
+/// Two families, three recipes, the first with a text and a picture of the folder.
+Dossier DeuxFamilles() {
+  Dossier d;
+  d.choix = gardeEntetes | avecImages;
+  d.fichiers[Donnees::GLR1] = Mot(2) + Famille("Potages") + Famille("Bœufs et bêtes"_1252);
+  d.fichiers[Donnees::GLR2] = Mot(3) + Recette(2, "Velouté"_1252, {9, 11}, {9, 10}) +
+                              Recette(3, "Bœuf à l'ancienne"_1252, {20, 5}) +
+                              Recette(2, "Crème d'été"_1252);
+  d.fichiers[Donnees::GLR3] = std::string("Un velouté.Mijot"_1252);
+  d.fichiers[Donnees::GLR4] = "/soupe.png";
+  return d;
+}
+
+Dossier Comptes(std::int16_t familles, std::int16_t recettes) {
+  Dossier d = DeuxFamilles();
+  d.fichiers[Donnees::GLR1].replace(0, 2, Mot(static_cast<unsigned>(familles)));
+  d.fichiers[Donnees::GLR2].replace(0, 2, Mot(static_cast<unsigned>(recettes)));
+  return d;
+}
+
+Dossier References() {
+  Dossier d = DeuxFamilles();
+  std::string recettes = Mot(9);
+  for (const LigneRayon& texte : std::array<LigneRayon, 9>{{{1, demesure},
+                                                            {demesure, demesure},
+                                                            {demesure, 1},
+                                                            {-1, 5},
+                                                            {9, -1},
+                                                            {0, demesure},
+                                                            {1, 0},
+                                                            {-demesure, -demesure},
+                                                            {16, 16}}}) {
+    recettes += Recette(2, "Soupe", texte, texte);
+  }
+  d.fichiers[Donnees::GLR2] = recettes;
+  return d;
+}
+
+Dossier Images() {
+  Dossier d = DeuxFamilles();
+  const std::string longue(300, 'x');
+  std::string reserve;
+  std::string recettes = Mot(9);
+  for (const std::string& image : std::array<std::string, 9>{
+           imageAilleurs, "/", "//soupe.png", "/../GLR1.DAT", "/..", std::string("/s\0p.png", 8),
+           "/" + longue, "IMAGE/soupe.png", std::string(dossierMemoire) + "/" + imageDuDossier}) {
+    recettes += Recette(
+        2, "Soupe", {},
+        {static_cast<std::int32_t>(9 + reserve.size()), static_cast<std::int32_t>(image.size())});
+    reserve += image;
+  }
+  d.fichiers[Donnees::GLR2] = recettes;
+  d.fichiers[Donnees::GLR4] = reserve;
+  return d;
+}
+
+/// Every byte in a title, each with its neighbours.
+Dossier TousLesOctets() {
+  constexpr int parTitre = 4;
+  Dossier d = DeuxFamilles();
+  std::string recettes = Mot(256 / parTitre);
+  for (int octet = 0; octet < 256; octet += parTitre) {
+    std::string titre = "o";
+    for (int i = 0; i < parTitre; ++i) {
+      titre += static_cast<char>(octet + i);
+    }
+    recettes += Recette(2, titre + "x");
+  }
+  d.fichiers[Donnees::GLR2] = recettes;
+  return d;
+}
+
+Dossier Rayons() {
+  Dossier d;
+  std::string lignes;
+  for (std::int32_t i = 0; i < static_cast<std::int32_t>(nombreRayons); ++i) {
+    lignes += Octets(i % 2 == 0 ? LigneRayon{9 + i, 3} : LigneRayon{0, demesure});
+  }
+  d.fichiers[Donnees::GLMC] = lignes;
+  d.fichiers[Donnees::GLMCN] = std::string("Crème fraîche, œufs"_1252);
+  return d;
+}
+
+Dossier Tronque() {
+  Dossier d = DeuxFamilles();
+  for (auto& [fichier, octets] : d.fichiers) {
+    octets.resize(octets.size() - octets.size() / 3);
+  }
+  return d;
+}
+
+Dossier ReduitesAuxEntetes() {
+  Dossier d = DeuxFamilles();
+  d.fichiers[Donnees::GLR1].resize(2);
+  d.fichiers[Donnees::GLR2].resize(2);
+  return d;
+}
+
+Dossier EnFabrique() {
+  Dossier d = DeuxFamilles();
+  d.choix |= enFabrique;
+  return d;
+}
+
+Dossier SansFichier() {
+  Dossier d = DeuxFamilles();
+  d.absents[Donnees::GLV2] = true;
+  return d;
+}
+
+Dossier EntetesFaux() {
+  Dossier d;
+  d.choix = 0;
+  d.fichiers[Donnees::GLR2] = Recette(1, "GLR1.DAT");
+  return d;
+}
+
+Dossier EnPanne(unsigned appel) {
+  Dossier d = DeuxFamilles();
+  d.panne = appel;
+  return d;
+}
+
+}  // namespace
+
+std::vector<Graine> Graines() {
+  constexpr unsigned appelDuDemarrage = 30;
+  constexpr unsigned appelDesListes = 90;
+  constexpr std::int16_t tropHaut = std::numeric_limits<std::int16_t>::max();
+  return {
+      {"vide", {}},
+      {"deux-familles", DeuxFamilles().octets()},
+      {"en-fabrique", EnFabrique().octets()},
+      {"comptes-trop-hauts", Comptes(tropHaut, tropHaut).octets()},
+      {"comptes-trop-bas", Comptes(1, 1).octets()},
+      {"reduites-aux-entetes", ReduitesAuxEntetes().octets()},
+      {"references", References().octets()},
+      {"images", Images().octets()},
+      {"tous-les-octets", TousLesOctets().octets()},
+      {"rayons", Rayons().octets()},
+      {"tronque", Tronque().octets()},
+      {"sans-fichier", SansFichier().octets()},
+      {"entetes-faux", EntetesFaux().octets()},
+      {"panne-au-demarrage", EnPanne(appelDuDemarrage).octets()},
+      {"panne-dans-les-listes", EnPanne(appelDesListes).octets()},
+  };
+}
+
+}  // namespace gastrelle::essai

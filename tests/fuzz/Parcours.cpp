@@ -1,0 +1,145 @@
+#include "fuzz/Parcours.h"
+
+#include <array>
+#include <limits>
+#include <stdexcept>
+
+#include "data/Courses.h"
+#include "data/EspaceMort.h"
+#include "data/Main.h"
+#include "data/ProceduresFichiers.h"
+#include "doublures/ServicesEssai.h"
+#include "fuzz/Entree.h"
+#include "recettes/LectureRecettes.h"
+
+namespace gastrelle::essai {
+namespace {
+
+void Verifie(bool condition, const char* sinon) {
+  if (!condition) {
+    throw std::logic_error(sinon);
+  }
+}
+
+class Vie {
+ public:
+  explicit Vie(std::string_view entree) { PoseDossier(entree, module_, disque_); }
+
+  Bilan Va() {
+    try {
+      Essaie([&] { Main(module_, false, [&] { bilan_.cadre = true; }); });
+      if (bilan_.cadre) {
+        Listes();
+        Recettes();
+        Courses();
+        Essaie([&] { static_cast<void>(MesureRecettes(module_)); });
+        Essaie([&] { static_cast<void>(OuvreFichiersRecettes(module_, true)); });
+      }
+    } catch (const FinDuProgramme& fin) {
+      bilan_.fin = fin.statut;
+    }
+    return std::move(bilan_);
+  }
+
+ private:
+  template <class Etape>
+  bool Essaie(Etape&& etape) {
+    try {
+      etape();
+      return true;
+    } catch (const ErreurExecution&) {
+      ++bilan_.pannes;
+      return false;
+    }
+  }
+
+  void Listes() {
+    Essaie([&] { bilan_.familles = ListeFamilles(module_); });
+    Essaie([&] { bilan_.recettes = ToutesRecettes(module_).liste; });
+    Trie(bilan_.recettes);
+    for (const std::int32_t famille : Numeros(bilan_.familles)) {
+      Essaie([&] {
+        const ListeComptee recettes = RecettesDeFamille(module_, famille);
+        Verifie(recettes.liste.size() <= static_cast<std::size_t>(recettes.vus),
+                "plus de recettes listées que vues");
+        module_.bufRecette.RepareCompte(recettes.vus);
+        for (const EntreeListe& recette : recettes.liste) {
+          Essaie([&] { static_cast<void>(LitRecette(module_, recette.donnee)); });
+        }
+      });
+    }
+  }
+
+  /// The order of a list, and the place of each of its texts in it.
+  static void Trie(Liste liste) {
+    TrieFrancais(liste);
+    for (std::size_t i = 1; i < liste.size(); ++i) {
+      Verifie(CompareFrancais(liste[i - 1].texte, liste[i].texte) <= 0, "une liste en désordre");
+      Verifie(PlaceFrancaise(liste, 0, liste[i].texte) > i, "une place avant un texte égal");
+    }
+  }
+
+  /// The numbers of a list, and some that no list gives.
+  static std::vector<std::int32_t> Numeros(const Liste& liste) {
+    using Bornes = std::numeric_limits<std::int32_t>;
+    std::vector<std::int32_t> numeros{Bornes::min(), -1, 0, 1, 2, 3, Bornes::max()};
+    for (const EntreeListe& entree : liste) {
+      numeros.push_back(entree.donnee);
+    }
+    return numeros;
+  }
+
+  void Recettes() {
+    for (const EntreeListe& recette : bilan_.recettes) {
+      Essaie([&] {
+        const RecetteLue lue = LitRecette(module_, recette.donnee);
+        Verifie(lue.texte.size() <= static_cast<std::size_t>(limiteTexteRecette),
+                "un texte plus long que sa limite");
+        Verifie(lue.image.empty() || lue.imagePerdue.empty(), "une image trouvée et perdue");
+        bilan_.textes.push_back(lue.texte);
+        if (!lue.image.empty()) {
+          bilan_.images.push_back(lue.image);
+        }
+      });
+    }
+    std::vector<std::int32_t> autres = Numeros({});
+    Essaie([&] {
+      const std::int32_t suivant = module_.bufRecette.ProchainNumero();
+      autres.insert(autres.end(), {suivant - 2, suivant - 1, suivant, suivant + 1});
+    });
+    for (const std::int32_t numero : autres) {
+      Essaie([&] { static_cast<void>(LitRecette(module_, numero)); });
+    }
+  }
+
+  /// What was read at the start is what the next start will read.
+  void Courses() {
+    const std::array<std::string, nombreRayons> avant = module_.texteRayon;
+    for (const std::string& texte : avant) {
+      bilan_.rayons += texte.empty() ? 0 : 1;
+    }
+    disque_.EchoueALAppel(0);
+    SauveCourses(module_);
+    Verifie(Essaie([&] { ChargeCourses(module_); }), "des rayons illisibles après leur écriture");
+    Verifie(module_.texteRayon == avant, "un rayon changé par son écriture");
+  }
+
+  DisqueMemoire disque_;
+  MessagesEssai messages_;
+  PointeurEssai pointeur_;
+  HorlogeEssai horloge_;
+  AssociationEssai association_;
+  SonEssai son_;
+  ProcessusEssai processus_;
+  Module1 module_{Services{disque_, messages_, pointeur_, horloge_, association_, son_, processus_},
+                  Chemins(Convention::posix, dossierMemoire)};
+  Bilan bilan_;
+};
+
+}  // namespace
+
+Bilan Parcourt(std::string_view entree) {
+  return Vie(entree).Va();
+}
+
+}  // namespace gastrelle::essai

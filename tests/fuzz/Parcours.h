@@ -1,0 +1,30 @@
+// One life of the program on the folder of an input: the start, every list, every recipe, the aisle
+// texts and their rewriting, the measure of the dead space.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "data/Collation.h"
+
+namespace gastrelle::essai {
+
+/// How far it got. A failure of one step doesn't keep the next one from being tried.
+struct Bilan {
+  bool cadre = false;      ///< the start got to the frame
+  std::optional<int> fin;  ///< the end of the program, with its status
+  Liste familles;
+  Liste recettes;
+  std::vector<std::string> textes;  ///< of the recipes of `recettes` that could be read
+  std::vector<std::string> images;  ///< the pictures that were found
+  std::size_t pannes = 0;           ///< steps that ended in an ErreurExecution
+  std::size_t rayons = 0;           ///< aisles with a text
+};
+
+/// Only ErreurExecution and the end of the program are accepted on the way: any other exception,
+/// and a std::logic_error for a result that contradicts the files, goes through.
+Bilan Parcourt(std::string_view entree);
+
+}  // namespace gastrelle::essai

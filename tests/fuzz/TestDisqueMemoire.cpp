@@ -1,0 +1,105 @@
+// The folder in memory behaves as the disk of the machine does.
+
+#include <array>
+
+#include <gtest/gtest.h>
+
+#include "fuzz/DisqueMemoire.h"
+#include "plateforme/ErreurExecution.h"
+
+namespace gastrelle::essai {
+namespace {
+
+template <class F>
+void Echoue(Panne attendue, F&& appel) {
+  try {
+    appel();
+    ADD_FAILURE() << "n'a pas échoué";
+  } catch (const ErreurExecution& erreur) {
+    EXPECT_EQ(erreur.panne(), attendue);
+  }
+}
+
+TEST(DisqueMemoire, OuvrirCreeUnFichierVide) {
+  DisqueMemoire disque;
+  EXPECT_FALSE(disque.Existe("A"));
+  EXPECT_EQ(disque.Ouvrir("A")->Longueur(), 0);
+  EXPECT_TRUE(disque.Existe("A"));
+}
+
+TEST(DisqueMemoire, LitCeQueLeFichierTientEtRienAuDela) {
+  DisqueMemoire disque;
+  disque.Pose("A", "abcdef");
+  const auto fichier = disque.Ouvrir("A");
+  std::array<char, 4> tampon{};
+  EXPECT_EQ(fichier->Lire(4, tampon), 2U);
+  EXPECT_EQ(std::string(tampon.data(), 2), "ef");
+  EXPECT_EQ(fichier->Lire(std::int64_t{1} << 40U, tampon), 0U);
+}
+
+TEST(DisqueMemoire, EcrireDeborde) {
+  DisqueMemoire disque;
+  disque.Pose("A", "abc");
+  disque.Ouvrir("A")->Ecrire(2, "xy");
+  EXPECT_EQ(disque.Lit("A"), "abxy");
+  disque.Ouvrir("A")->Ecrire(6, "z");
+  EXPECT_EQ(disque.Lit("A"), std::string("abxy\0\0z", 7));
+}
+
+TEST(DisqueMemoire, UnFichierDemesureTrouveLeDisquePlein) {
+  DisqueMemoire disque;
+  const auto fichier = disque.Ouvrir("A");
+  fichier->Ecrire(DisqueMemoire::capacite - 1, "x");
+  Echoue(Panne::disquePlein, [&] { fichier->Ecrire(DisqueMemoire::capacite, "x"); });
+  EXPECT_EQ(fichier->Longueur(), DisqueMemoire::capacite);
+}
+
+TEST(DisqueMemoire, UnFichierOuvertSurvitASonNom) {
+  DisqueMemoire disque;
+  disque.Pose("A", "abc");
+  const auto fichier = disque.Ouvrir("A");
+  disque.Supprimer("A");
+  EXPECT_FALSE(disque.Existe("A"));
+  EXPECT_EQ(fichier->Longueur(), 3);
+}
+
+TEST(DisqueMemoire, CopieEtRenomme) {
+  DisqueMemoire disque;
+  disque.Pose("A", "abc");
+  disque.Copier("A", "B");
+  disque.Renommer("A", "C");
+  disque.Ouvrir("C")->Ecrire(0, "z");
+  EXPECT_EQ(disque.Lit("B"), "abc");
+  EXPECT_EQ(disque.Lit("C"), "zbc");
+  EXPECT_FALSE(disque.Existe("A"));
+}
+
+TEST(DisqueMemoire, CeQuiNEstPasLaEchoue) {
+  DisqueMemoire disque;
+  Echoue(Panne::fichierIntrouvable, [&] { disque.Copier("A", "B"); });
+  Echoue(Panne::fichierIntrouvable, [&] { disque.Supprimer("A"); });
+  Echoue(Panne::fichierIntrouvable, [&] { disque.Renommer("A", "B"); });
+  Echoue(Panne::cheminIntrouvable, [&] { disque.SupprimerDossier("D"); });
+  EXPECT_FALSE(disque.Existe("B"));
+}
+
+TEST(DisqueMemoire, UnDossierNEstPasUnFichier) {
+  DisqueMemoire disque;
+  disque.CreerDossier("IMAGE");
+  EXPECT_TRUE(disque.DossierExiste("IMAGE"));
+  EXPECT_FALSE(disque.Existe("IMAGE"));
+  Echoue(Panne::accesFichier, [&] { disque.CreerDossier("IMAGE"); });
+  disque.SupprimerDossier("IMAGE");
+  EXPECT_FALSE(disque.DossierExiste("IMAGE"));
+}
+
+TEST(DisqueMemoire, EchoueUneFoisALAppelVoulu) {
+  DisqueMemoire disque;
+  disque.EchoueALAppel(2);
+  EXPECT_FALSE(disque.Existe("A"));
+  Echoue(Panne::entreeSortie, [&] { static_cast<void>(disque.Existe("A")); });
+  EXPECT_FALSE(disque.Existe("A"));
+}
+
+}  // namespace
+}  // namespace gastrelle::essai

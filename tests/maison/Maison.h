@@ -1,0 +1,41 @@
+// The plan of the house as checks on a tree of sources: who may include whom, where the toolkit may
+// appear, how long a file may be. Each check answers the violations, one line each.
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+namespace gastrelle::essai {
+
+using Constats = std::vector<std::string>;
+
+/// Longest file of code, in lines.
+inline constexpr std::size_t lignesAuPlus = 600;
+
+/// The floor of a file of `src`, from 1 to 8, by its path in there; 0 for a folder that has none.
+int Etage(const std::filesystem::path& fichier);
+
+/// A file of `src` includes a file of a floor above its own, or one that isn't in `src`, or lies in
+/// a folder without a floor.
+Constats IncluantPlusHaut(const std::filesystem::path& racine);
+
+/// Two folders of floor 3, or of floor 4, include each other.
+Constats PiecesQuiSIncluent(const std::filesystem::path& racine);
+
+/// A file below floor 5 includes a header of the toolkit.
+Constats QtSousLesFenetres(const std::filesystem::path& racine);
+
+/// Files of `src`, `usine`, `tests` or `bancs` that include each other in a ring.
+Constats Cycles(const std::filesystem::path& racine);
+
+/// Files of code of the same four folders with more than `lignesAuPlus` lines.
+Constats TropLongs(const std::filesystem::path& racine);
+
+/// Marks of unfinished work in the same files.
+Constats Inacheves(const std::filesystem::path& racine);
+
+/// A `.cpp` of `src` that `src/CMakeLists.txt` doesn't name.
+Constats NonCompiles(const std::filesystem::path& racine);
+
+}  // namespace gastrelle::essai

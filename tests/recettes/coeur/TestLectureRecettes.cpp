@@ -1,0 +1,182 @@
+// Reading families and recipes: what the scans list, where they stop, what a recipe shows.
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "data/Texte1252.h"
+#include "doublures/Bibliotheque.h"
+#include "recettes/LectureRecettes.h"
+
+namespace gastrelle::essai {
+namespace {
+
+using testing::ElementsAre;
+
+class Lecture : public testing::Test {
+ protected:
+  void PoseCompte(std::string_view nom, std::int16_t compte) const {
+    std::string octets = b.dossier.Lit(nom);
+    octets[0] = static_cast<char>(compte & 0xFF);
+    octets[1] = static_cast<char>(compte >> 8);
+    b.dossier.Ecrit(nom, octets);
+  }
+
+  void Supprime(std::int32_t recette) const {
+    std::string octets = b.dossier.Lit("GLR2.stp");
+    octets[static_cast<std::size_t>(recette - 1) * 150] = 0;
+    octets[static_cast<std::size_t>(recette - 1) * 150 + 1] = 0;
+    b.dossier.Ecrit("GLR2.stp", octets);
+  }
+
+  Bibliotheque b;
+};
+
+TEST_F(Lecture, ListeLesFamillesVivantesDansLOrdreDesFiches) {
+  b.AjouteFamille("  Poissons ");
+  b.Demarre();
+  EXPECT_THAT(ListeFamilles(*b.module),
+              ElementsAre(EntreeListe{"Potages", 2}, EntreeListe{"Poissons", 3}));
+}
+
+TEST_F(Lecture, ArreteLesFamillesAuCompteOuAuDernierEnregistrementSansRienReparer) {
+  b.AjouteFamille("Poissons");
+  PoseCompte("GLR1.stp", 1);
+  b.Demarre();
+  EXPECT_EQ(ListeFamilles(*b.module).size(), 1U);
+  b.module->bufFamille.nbActifs() = 9;
+  EXPECT_EQ(ListeFamilles(*b.module).size(), 2U);
+  EXPECT_EQ(b.module->bufFamille.nbActifs(), 9);
+  EXPECT_THAT(b.disque.changements(), ElementsAre());
+}
+
+TEST_F(Lecture, NeListeQueLesRecettesVivantesDeLaFamilleAvecLeurVraiNumero) {
+  const std::int32_t famille = b.AjouteFamille("Poissons");
+  b.AjouteRecette(famille, "Sole");
+  const std::int32_t supprimee = b.AjouteRecette(famille, "Raie");
+  b.AjouteRecette(2, "Bisque");
+  b.AjouteRecette(famille, "Bar");
+  Supprime(supprimee);
+  PoseCompte("GLR2.stp", 4);
+  b.Demarre();
+  const ListeComptee recettes = RecettesDeFamille(*b.module, famille);
+  EXPECT_THAT(recettes.liste, ElementsAre(EntreeListe{"Sole", 3}, EntreeListe{"Bar", 6}));
+  EXPECT_EQ(recettes.vus, 4);
+}
+
+TEST_F(Lecture, CompteTropBasLaisseLesDernieresRecettesHorsDeLaListe) {
+  for (const char* titre : {"A", "B", "C"}) {
+    b.AjouteRecette(2, titre);
+  }
+  PoseCompte("GLR2.stp", 1);
+  b.Demarre();
+  EXPECT_EQ(ToutesRecettes(*b.module).liste.size(), 1U);
+  EXPECT_EQ(ToutesRecettes(*b.module).vus, 1);
+}
+
+TEST_F(Lecture, CompteTropHautVaJusquAuDernierEnregistrement) {
+  b.AjouteRecette(2, "A");
+  PoseCompte("GLR2.stp", 5);
+  b.Demarre();
+  EXPECT_EQ(ToutesRecettes(*b.module).vus, 2);
+}
+
+TEST_F(Lecture, UnFichierReduitASonEnteteNeDonneAucuneRecette) {
+  b.Demarre();
+  b.dossier.Ecrit("GLR2.DAT", b.dossier.Lit("GLR2.DAT").substr(0, 150));
+  const ListeComptee recettes = ToutesRecettes(*b.module);
+  EXPECT_TRUE(recettes.liste.empty());
+  EXPECT_EQ(recettes.vus, 0);
+}
+
+TEST_F(Lecture, LEnregistrementDeTravailGardeLeDernierLu) {
+  b.AjouteRecette(2, "Bisque");
+  b.Demarre();
+  ToutesRecettes(*b.module);
+  EXPECT_EQ(Rogne(b.module->bufRecette.courant().nomRecette.brut()), "Bisque");
+}
+
+TEST_F(Lecture, MontreLesTrenteMillePremiersOctetsDUnTexte) {
+  const std::string texte(30001, 'x');
+  const std::int32_t numero = b.AjouteRecette(2, "Longue", texte);
+  b.Demarre();
+  EXPECT_EQ(LitRecette(*b.module, numero).texte, texte.substr(0, 30000));
+}
+
+TEST_F(Lecture, UneRecetteSansTexteNiImageEstVide) {
+  const std::int32_t numero = b.AjouteRecette(2, "Nue");
+  b.Demarre();
+  const RecetteLue lue = LitRecette(*b.module, numero);
+  EXPECT_EQ(lue.texte, "");
+  EXPECT_FALSE(lue.associee);
+}
+
+TEST_F(Lecture, DeveloppeLaFormeCourteDUneImagePresente) {
+  const std::int32_t numero = b.AjouteRecette(2, "Avec", {}, "/soupe.png");
+  b.Demarre();
+  b.dossier.Ecrit("IMAGE/soupe.png", "x");
+  const RecetteLue lue = LitRecette(*b.module, numero);
+  EXPECT_TRUE(lue.associee);
+  EXPECT_EQ(lue.image, b.module->chemins.De("IMAGE/soupe.png"));
+  EXPECT_THAT(b.disque.changements(), ElementsAre());
+}
+
+TEST_F(Lecture, SuitUnCheminEntierHorsDuDossier) {
+  const DossierEssai ailleurs;
+  ailleurs.Ecrit("photo.jpg", "x");
+  const std::string chemin = (ailleurs.chemin() / "photo.jpg").string();
+  const std::int32_t numero = b.AjouteRecette(2, "Avec", {}, chemin);
+  b.Demarre();
+  EXPECT_EQ(LitRecette(*b.module, numero).image, chemin);
+}
+
+TEST_F(Lecture, DelieUneImageDisparueDansLaFicheEtLaisseLeCheminDansLaReserve) {
+  const std::int32_t numero = b.AjouteRecette(2, "Avec", "texte", "/partie.png");
+  b.Demarre();
+  const std::string reserve = b.dossier.Lit("GLR4.DAT");
+  const RecetteLue lue = LitRecette(*b.module, numero);
+  EXPECT_EQ(lue.image, "");
+  EXPECT_EQ(lue.imagePerdue, b.module->chemins.De("IMAGE/partie.png"));
+  const auto fiche = Enregistrement<RecRecette>(b.dossier, "GLR2.DAT", 3);
+  EXPECT_EQ(fiche.posImage, 0);
+  EXPECT_EQ(fiche.lgImage, 0);
+  EXPECT_EQ(fiche.lgTexte, 5);
+  EXPECT_EQ(b.dossier.Lit("GLR4.DAT"), reserve);
+  EXPECT_FALSE(LitRecette(*b.module, numero).associee);
+}
+
+TEST_F(Lecture, UneRechercheDImageQuiEchoueVautAbsence) {
+  const std::int32_t numero = b.AjouteRecette(2, "Avec", {}, "/soupe.png");
+  b.Demarre();
+  b.dossier.Ecrit("IMAGE/soupe.png", "x");
+  b.disque.EchoueSur("existe IMAGE/", Panne::permissionRefusee);
+  EXPECT_EQ(LitRecette(*b.module, numero).image, "");
+}
+
+TEST_F(Lecture, ExigeLesTroisFichiersDansLOrdreAvantDeLire) {
+  b.Demarre();
+  LitRecette(*b.module, 2);
+  EXPECT_THAT(b.disque.journal(),
+              ElementsAre("existe GLR2.DAT", "existe GLR3.DAT", "existe GLR4.DAT",
+                          "lit GLR2.DAT 150+150", "longueur GLR3.DAT", "lit GLR3.DAT 8+11"));
+}
+
+TEST_F(Lecture, UnFichierDisparuEstDitPuisEchoue) {
+  b.Demarre();
+  b.dossier.Supprime("GLR4.DAT");
+  EXPECT_THROW(LitRecette(*b.module, 2), ErreurExecution);
+  EXPECT_THAT(b.messages.vus,
+              ElementsAre(MessageVu{"Fichier " + b.module->chemins.De("GLR4.DAT") + "\r\n" +
+                                        std::string("non trouvé ou erreur disque."_1252),
+                                    Icone::critique, "Gastrelle 2005"}));
+}
+
+TEST_F(Lecture, UneLongueurNegativeEstUnePanne) {
+  b.Demarre();
+  RecRecette fiche = Enregistrement<RecRecette>(b.dossier, "GLR2.DAT", 2);
+  fiche.lgTexte = -1;
+  b.module->bufRecette.Ecrire(2, fiche);
+  EXPECT_THROW(LitRecette(*b.module, 2), ErreurExecution);
+}
+
+}  // namespace
+}  // namespace gastrelle::essai

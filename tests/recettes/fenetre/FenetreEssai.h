@@ -1,0 +1,56 @@
+// The recipes window on a small library, with verbs for its tests.
+#pragma once
+
+#include <string>
+
+#include "doublures/FenetreEssai.h"
+#include "recettes/frmRecettes.h"
+
+namespace gastrelle::essai {
+
+class FenetreRecettes : public FenetreEssai<frmRecettes> {
+ protected:
+  /// Lays a file in the picture folder.
+  void PoseImage(const std::string& nom) const {
+    std::filesystem::create_directory(b.dossier.chemin() / "IMAGE");
+    b.dossier.Ecrit("IMAGE/" + nom, "x");
+  }
+
+  /// The gestures on a tab, once for each write of the operation that they bring, which fails: each
+  /// time on a fresh library, and each time the program ends by the one fatal message. `verifie`
+  /// looks at what is then on file.
+  template <class Gestes, class Verifie>
+  static void FinitAChaqueEcriture(std::size_t ecritures, int onglet, Gestes gestes,
+                                   Verifie verifie) {
+    for (std::size_t n = 1; n <= ecritures; ++n) {
+      SCOPED_TRACE("écriture " + std::to_string(n));
+      Bibliotheque autre;
+      autre.Demarre();
+      OublieFin();
+      CadreEssai unCadre(*autre.module);
+      frmRecettes uneFenetre(*autre.module, unCadre);
+      uneFenetre.show();
+      uneFenetre.Active();
+      CliqueOnglet(uneFenetre, onglet);
+      autre.disque.EchoueALaNiemeEcriture(n, Panne::disquePlein);
+      gestes(uneFenetre);
+      EXPECT_EQ(FinVue(), 1);
+      EXPECT_THAT(autre.messages.vus, testing::SizeIs(1));
+      verifie(autre, n);
+    }
+  }
+
+  QComboBox& familles() { return Le<QComboBox>("ComboFamilles"); }
+  QComboBox& recettes() { return Le<QComboBox>("ComboRecettes"); }
+  QString image() { return Le("lblLaRecette").property("Tag").toString(); }
+
+  RecRecette Fiche(std::size_t numero) const {
+    return Enregistrement<RecRecette>(b.dossier, "GLR2.DAT", numero);
+  }
+  std::string NomFamille(std::size_t numero) const {
+    return std::string(
+        Rogne(Enregistrement<RecFamille>(b.dossier, "GLR1.DAT", numero).nomFamille.brut()));
+  }
+};
+
+}  // namespace gastrelle::essai

@@ -1,0 +1,127 @@
+// The tab "Alpha" of the recipes window: the classification, and the way from there to a recipe.
+
+#include <QListView>
+#include <QTest>
+
+#include "recettes/fenetre/FenetreEssai.h"
+
+namespace gastrelle::essai {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class Alpha : public FenetreRecettes {
+ protected:
+  void OuvreAlpha() {
+    b.AjouteRecette(b.AjouteFamille("Desserts"), "Tarte", "Une tarte.");
+    b.AjouteRecette(2, "Soupe", "Une soupe.");
+    Ouvre(5);
+  }
+  QListView& liste() { return Le<QListView>("lstRecettesTri"); }
+  void Selectionne(int rang) {
+    QTest::mouseClick(liste().viewport(), Qt::LeftButton, {},
+                      liste().visualRect(liste().model()->index(rang, 0)).center());
+  }
+};
+
+TEST_F(Alpha, ListeToutesLesRecettesEtLesCompte) {
+  OuvreAlpha();
+  EXPECT_EQ(cadre->contextes.back(), 15);
+  EXPECT_EQ(Textes(liste()), (QStringList{"Soupe", "Tarte", Fr("Velouté")}));
+  EXPECT_EQ(Texte(Le("lblNbreRecette")), "Les 3 recettes");
+  EXPECT_EQ(liste().currentIndex().row(), 0);
+  EXPECT_TRUE(aLeFocus("lstRecettesTri"));
+}
+
+TEST_F(Alpha, CompteAuPlurielMemeUneSeule) {
+  Ouvre(5);
+  EXPECT_EQ(Texte(Le("lblNbreRecette")), "Les 1 recettes");
+}
+
+TEST_F(Alpha, RepareUnCompteTropHaut) {
+  OuvreAlpha();
+  CliqueOnglet(*fenetre, 1);
+  b.module->bufRecette.nbActifs() = 9;
+  CliqueOnglet(*fenetre, 5);
+  EXPECT_EQ(Fiche(1).actif, 3);
+}
+
+TEST_F(Alpha, VaALaRecetteDUneAutreFamille) {
+  OuvreAlpha();
+  Selectionne(0);
+  Clique(Le("cmdValideTri"));
+  EXPECT_EQ(onglet(), 1);
+  EXPECT_EQ(familles().currentText(), "Potages");
+  EXPECT_EQ(recettes().currentText(), "Soupe");
+  EXPECT_EQ(Texte(Le("txtRecette")), "Une soupe.");
+  EXPECT_EQ(Rogne(b.module->bufRecette.courant().nomRecette.brut()), "Soupe");
+}
+
+TEST_F(Alpha, UnDoubleClicFaitDeMeme) {
+  OuvreAlpha();
+  const QPoint ou = liste().visualRect(liste().model()->index(2, 0)).center();
+  QTest::mouseClick(liste().viewport(), Qt::LeftButton, {}, ou);
+  QTest::mouseDClick(liste().viewport(), Qt::LeftButton, {}, ou);
+  EXPECT_EQ(onglet(), 1);
+  EXPECT_EQ(recettes().currentText(), Fr("Velouté"));
+}
+
+TEST_F(Alpha, LaRecetteDejaAfficheeNeReliRien) {
+  OuvreAlpha();
+  Selectionne(1);
+  b.disque.OublieJournal();
+  Clique(Le("cmdValideTri"));
+  EXPECT_EQ(onglet(), 1);
+  EXPECT_THAT(b.disque.journal(), IsEmpty());
+  EXPECT_EQ(Rogne(b.module->bufRecette.courant().nomRecette.brut()), "Soupe");
+}
+
+TEST_F(Alpha, ModifierEtSupprimerSontRefusesAvecLeSon) {
+  OuvreAlpha();
+  for (const int refuse : {3, 4}) {
+    CliqueOnglet(*fenetre, refuse);
+    EXPECT_EQ(onglet(), 5);
+  }
+  EXPECT_THAT(b.son.joues, ElementsAre((b.dossier.chemin() / "Exclamation").string(),
+                                       (b.dossier.chemin() / "Exclamation").string()));
+  EXPECT_THAT(b.messages.vus, IsEmpty());
+}
+
+TEST_F(Alpha, ListeEtAjouterSontPermis) {
+  OuvreAlpha();
+  CliqueOnglet(*fenetre, 2);
+  EXPECT_EQ(onglet(), 2);
+  CliqueOnglet(*fenetre, 5);
+  CliqueOnglet(*fenetre, 1);
+  EXPECT_EQ(onglet(), 1);
+  EXPECT_THAT(b.son.joues, IsEmpty());
+}
+
+TEST_F(Alpha, LOngletDejaChoisiNeFaitRien) {
+  OuvreAlpha();
+  b.disque.OublieJournal();
+  CliqueOnglet(*fenetre, 5);
+  EXPECT_THAT(b.disque.journal(), IsEmpty());
+}
+
+TEST_F(Alpha, UneFamilleIntrouvableFinitLeProgramme) {
+  OuvreAlpha();
+  RecRecette orpheline = Fiche(4);
+  orpheline.idFamille = 99;
+  b.module->bufRecette.Ecrire(4, orpheline);
+  Selectionne(0);
+  Clique(Le("cmdValideTri"));
+  AttendFinFatale();
+}
+
+TEST_F(Alpha, UnFichierDisparuFinitLeProgramme) {
+  OuvreAlpha();
+  CliqueOnglet(*fenetre, 1);
+  b.dossier.Supprime("GLR2.DAT");
+  CliqueOnglet(*fenetre, 5);
+  AttendFinFatale();
+}
+
+}  // namespace
+}  // namespace gastrelle::essai

@@ -1,0 +1,394 @@
+// The frame: opening and closing windows, what they allow, its own commands, the end of the
+// program.
+
+#include <QClipboard>
+#include <QTest>
+#include <QTimer>
+
+#include "doublures/CadreVrai.h"
+
+namespace gastrelle::essai {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::SizeIs;
+
+class Cadre : public CadreVrai {};
+
+TEST_F(Cadre, SOuvreSurLesRecettesMaximisees) {
+  Ouvre();
+  EXPECT_EQ(cadre->windowTitle(), "Gastrelle 2005");
+  EXPECT_TRUE(recettes().isMaximized());
+  EXPECT_EQ(b.module->contexteActif, 11);
+  EXPECT_TRUE(Entree("mnuViewRecettes").isChecked());
+  EXPECT_FALSE(b.module->premiereOuverture);
+}
+
+TEST_F(Cadre, LaPreferenceOuvreLesRecettesEnTailleNormale) {
+  b.Demarre();
+  b.module->prefs[0].fenetreNormale = 1;
+  b.module->prefs[0].sansCopie = 1;
+  cadre = std::make_unique<frmMain>(*b.module, clavier);
+  cadre->show();
+  EXPECT_FALSE(recettes().isMaximized());
+}
+
+TEST_F(Cadre, LaListeDesRecettesPermetDImprimerDeCopierEtDeChercher) {
+  Ouvre();
+  for (const char* nom :
+       {"mnuFilePrint", "mnuEditCopy", "mnuEditSelect", "mnuEditRechercher", "mnuEditEnvoyer"}) {
+    EXPECT_TRUE(Permis(nom)) << nom;
+  }
+  for (const char* nom : {"mnuEditCut", "mnuEditPaste", "mnuViewImage"}) {
+    EXPECT_FALSE(Permis(nom)) << nom;
+  }
+  for (const char* cle : {"Print", "Copier", "Find", "Ttx", "Notepad"}) {
+    EXPECT_TRUE(BoutonBarre(cle).isEnabled()) << cle;
+  }
+  for (const char* cle : {"Couper", "Coller"}) {
+    EXPECT_FALSE(BoutonBarre(cle).isEnabled()) << cle;
+  }
+}
+
+TEST_F(Cadre, ChaqueOngletPoseSonMotif) {
+  Ouvre();
+  CliqueOnglet(Le("frmRecettes"), 2);
+  EXPECT_EQ(b.module->contexteActif, 12);
+  EXPECT_TRUE(BoutonBarre("Coller").isEnabled());
+  EXPECT_FALSE(BoutonBarre("Print").isEnabled());
+  EXPECT_TRUE(Permis("mnuEditSelect"));  // left as the list had it
+  CliqueOnglet(Le("frmRecettes"), 5);
+  EXPECT_FALSE(Permis("mnuEditSelect"));
+  CliqueOnglet(Le("frmRecettes"), 2);
+  EXPECT_FALSE(Permis("mnuEditSelect"));  // left as the classification had it
+}
+
+TEST_F(Cadre, UneImagePresentePermetDeLaVoir) {
+  b.AjouteRecette(2, "Avec", {}, "/a.png");
+  std::filesystem::create_directory(b.dossier.chemin() / "IMAGE");
+  b.dossier.Ecrit("IMAGE/a.png", "x");
+  Ouvre();
+  EXPECT_TRUE(Permis("mnuViewImage"));
+  CliqueOnglet(Le("frmRecettes"), 3);
+  EXPECT_FALSE(Permis("mnuViewImage"));
+  CliqueOnglet(Le("frmRecettes"), 1);
+  EXPECT_TRUE(Permis("mnuViewImage"));
+}
+
+TEST_F(Cadre, RevenirAuxRecettesActivesNeChangeRienPasMemeLePointeur) {
+  Ouvre();
+  b.pointeur.Sablier();
+  Choisit("mnuViewRecettes");
+  EXPECT_TRUE(b.pointeur.sablier);
+  EXPECT_TRUE(Entree("mnuViewRecettes").isChecked());
+  EXPECT_THAT(b.disque.journal(), IsEmpty());
+}
+
+TEST_F(Cadre, FermerLesRecettesEteintLeCadre) {
+  Ouvre();
+  recettes().close();
+  QApplication::processEvents();
+  EXPECT_EQ(b.module->contexteActif, 0);
+  EXPECT_FALSE(Entree("mnuViewRecettes").isChecked());
+  for (const char* nom : {"mnuFilePrint", "mnuEditCopy", "mnuEditSelect", "mnuEditRechercher",
+                          "mnuEditEnvoyer", "mnuViewImage"}) {
+    EXPECT_FALSE(Permis(nom)) << nom;
+  }
+  for (const char* cle : {"Print", "Copier", "Find", "Ttx", "Notepad"}) {
+    EXPECT_FALSE(BoutonBarre(cle).isEnabled()) << cle;
+  }
+}
+
+TEST_F(Cadre, LesRecettesFermeesSeRouvrentParLeBouton) {
+  Ouvre();
+  recettes().close();
+  QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  QApplication::processEvents();
+  Clique(BoutonBarre("Recette"));
+  QApplication::processEvents();
+  EXPECT_EQ(b.module->contexteActif, 11);
+  EXPECT_TRUE(recettes().isMaximized());
+}
+
+TEST_F(Cadre, UneFenetreReduiteNeChangeRienAuCadreEtSeRetablit) {
+  Ouvre();
+  recettes().showMinimized();
+  QApplication::processEvents();
+  EXPECT_EQ(b.module->contexteActif, 11);
+  b.module->contexteActif = 0;
+  Choisit("mnuViewRecettes");
+  EXPECT_FALSE(recettes().isMinimized());
+  EXPECT_EQ(b.module->contexteActif, 11);
+}
+
+TEST_F(Cadre, LActivationAvecUneErreurFataleFinitLeProgramme) {
+  Ouvre();
+  recettes().showMinimized();
+  QApplication::processEvents();
+  b.module->erreurFatale = true;
+  recettes().showNormal();
+  QApplication::processEvents();
+  EXPECT_EQ(FinVue(), 1);
+}
+
+TEST_F(Cadre, ToutFermerDechargeLesFenetres) {
+  Ouvre();
+  Choisit("mnuWindowClose");
+  QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  EXPECT_THAT(enfants().subWindowList(), IsEmpty());
+  EXPECT_EQ(b.module->contexteActif, 0);
+}
+
+TEST_F(Cadre, LeMenuFenetreListeLesFenetresOuvertes) {
+  Ouvre();
+  emit Le<QMenu>("mnuWindow").aboutToShow();
+  const QList<QAction*> actions = Le<QMenu>("mnuWindow").actions();
+  EXPECT_EQ(actions.last()->text(), "&1 Les recettes");
+  EXPECT_TRUE(actions.last()->isChecked());
+  emit Le<QMenu>("mnuWindow").aboutToShow();
+  EXPECT_EQ(Le<QMenu>("mnuWindow").actions().size(), actions.size());
+}
+
+TEST_F(Cadre, CopierMetLaSelectionAuPressePapiers) {
+  Ouvre();
+  Le("txtRecette").setFocus();
+  Choisit("mnuEditSelect");
+  Clique(BoutonBarre("Copier"));
+  EXPECT_EQ(QApplication::clipboard()->text(), Fr("Un velouté."));
+}
+
+TEST_F(Cadre, CopierSansSelectionBipeEtGardeLePressePapiers) {
+  Ouvre();
+  QApplication::clipboard()->setText("gardé");
+  Le("txtRecette").setFocus();
+  Clique(BoutonBarre("Copier"));
+  EXPECT_EQ(b.messages.bips, 1);
+  EXPECT_EQ(QApplication::clipboard()->text(), Fr("gardé"));
+}
+
+TEST_F(Cadre, CouperPrendLaSelectionEtCollerLaRemet) {
+  Ouvre();
+  CliqueOnglet(Le("frmRecettes"), 2);
+  Le("txtSaisieNomRecette").setFocus();
+  Tape(Le("txtSaisieNomRecette"), "Soupe");
+  Choisit("mnuEditSelect");
+  Clique(BoutonBarre("Couper"));
+  EXPECT_EQ(Texte(Le("txtSaisieNomRecette")), "");
+  EXPECT_EQ(QApplication::clipboard()->text(), "Soupe");
+  Clique(BoutonBarre("Coller"));
+  Clique(BoutonBarre("Coller"));
+  EXPECT_EQ(Texte(Le("txtSaisieNomRecette")), "SoupeSoupe");
+}
+
+TEST_F(Cadre, CouperSansSelectionVideLePressePapiers) {
+  Ouvre();
+  QApplication::clipboard()->setText("x");
+  CliqueOnglet(Le("frmRecettes"), 2);
+  Le("txtSaisieNomRecette").setFocus();
+  Clique(BoutonBarre("Couper"));
+  EXPECT_EQ(QApplication::clipboard()->text(), "");
+  EXPECT_EQ(b.messages.bips, 0);
+}
+
+TEST_F(Cadre, CouperDansUneListeBipeEtNeChangeRien) {
+  Ouvre();
+  CliqueOnglet(Le("frmRecettes"), 2);
+  QApplication::clipboard()->setText("x");
+  Le("ComboFamillesAjouter").setFocus();
+  Clique(BoutonBarre("Couper"));
+  EXPECT_EQ(b.messages.bips, 1);
+  EXPECT_EQ(QApplication::clipboard()->text(), "x");
+}
+
+TEST_F(Cadre, CollerDansUneBoiteEnLectureSeuleBipe) {
+  Ouvre();
+  CliqueOnglet(Le("frmRecettes"), 2);
+  QApplication::clipboard()->setText("a.jpg");
+  Le("txtImageAjouter").setFocus();
+  Clique(BoutonBarre("Coller"));
+  EXPECT_EQ(b.messages.bips, 1);
+  EXPECT_EQ(Texte(Le("txtImageAjouter")), "");
+}
+
+TEST_F(Cadre, LesBarresSeCachentEtReviennentAvecLeurCoche) {
+  Ouvre();
+  EXPECT_TRUE(Entree("mnuViewBarreOutils").isChecked());
+  Choisit("mnuViewBarreOutils");
+  EXPECT_FALSE(Le("tbToolBar").isVisible());
+  EXPECT_FALSE(Entree("mnuViewBarreOutils").isChecked());
+  Choisit("mnuViewBarreOutils");
+  EXPECT_TRUE(Le("tbToolBar").isVisible());
+  Choisit("mnuViewBarreStatut");
+  EXPECT_FALSE(Le("StatusBar1").isVisible());
+  EXPECT_FALSE(Entree("mnuViewBarreStatut").isChecked());
+}
+
+TEST_F(Cadre, LesPanneauxDisentLesVerrousDuClavier) {
+  clavier.verrous = Verrous{true, false};
+  Ouvre();
+  EXPECT_TRUE(Le("StatusBar1.Maj").isEnabled());
+  EXPECT_FALSE(Le("StatusBar1.Num").isEnabled());
+  clavier.verrous = Verrous{false, true};
+  QTest::keyClick(&Le("txtRecette"), Qt::Key_NumLock);
+  EXPECT_FALSE(Le("StatusBar1.Maj").isEnabled());
+  EXPECT_TRUE(Le("StatusBar1.Num").isEnabled());
+  EXPECT_EQ(Texte(Le("StatusBar1.Maj")), "Maj");
+  EXPECT_EQ(Texte(Le("StatusBar1.Num")), "Num");
+}
+
+class AvecImage : public CadreVrai {
+ protected:
+  AvecImage() {
+    b.AjouteRecette(2, "Avec", {}, "/a.png");
+    std::filesystem::create_directory(b.dossier.chemin() / "IMAGE");
+    b.dossier.Ecrit("IMAGE/a.png", "x");
+  }
+};
+
+TEST_F(AvecImage, LeVisualisateurAssocieOuvreLeFichier) {
+  Ouvre();
+  Choisit("mnuViewImageVisuAssocie");
+  EXPECT_THAT(b.association.cibles, ElementsAre((b.dossier.chemin() / "IMAGE/a.png").string()));
+  EXPECT_THAT(b.messages.vus, IsEmpty());
+}
+
+TEST_F(AvecImage, SansAssociationLeVisualisateurLeDit) {
+  b.association.reponse = Ouverture::aucuneAssociation;
+  Ouvre();
+  Choisit("mnuViewImageVisuAssocie");
+  EXPECT_THAT(
+      b.messages.vus,
+      ElementsAre(MessageVu{DepuisUtf8("Aucune association n'est définie pour afficher l'image"),
+                            Icone::information, "Gastrelle 2005"}));
+}
+
+TEST_F(AvecImage, UneImagePartieEntreTempsEstDiteEtLEntreeResteActive) {
+  Ouvre();
+  b.dossier.Supprime("IMAGE/a.png");
+  Choisit("mnuViewImageVisuAssocie");
+  EXPECT_THAT(b.messages.vus,
+              ElementsAre(MessageVu{"Fichier\r\n" + b.module->chemins.De("IMAGE/a.png") +
+                                        DepuisUtf8("\r\nnon trouvé."),
+                                    Icone::critique, "Gastrelle 2005"}));
+  EXPECT_TRUE(Permis("mnuViewImage"));
+  EXPECT_THAT(b.association.cibles, IsEmpty());
+}
+
+TEST_F(AvecImage, HorsDeLaListeLeVisualisateurAssocieNeFaitRien) {
+  Ouvre();
+  b.module->contexteActif = 12;
+  Choisit("mnuViewImageVisuAssocie");
+  EXPECT_THAT(b.association.cibles, IsEmpty());
+}
+
+TEST_F(Cadre, LeSiteSOuvreParSonAssociation) {
+  Ouvre();
+  Choisit("mnuHelpGlSurLeWeb");
+  EXPECT_THAT(b.association.cibles, ElementsAre("https://www.gastrelle.example/"));
+}
+
+TEST_F(Cadre, SansNavigateurLeSiteLeDit) {
+  Ouvre();
+  b.association.reponse = Ouverture::aucuneAssociation;
+  Choisit("mnuHelpGlSurLeWeb");
+  EXPECT_THAT(b.messages.vus,
+              ElementsAre(MessageVu{
+                  DepuisUtf8("Aucune association n'est définie pour naviguer sur Internet"),
+                  Icone::information, "Gastrelle 2005"}));
+}
+
+TEST_F(Cadre, SansFichierDAideLeSommaireLeDit) {
+  Ouvre();
+  b.module->fichierAide.clear();
+  Clique(BoutonBarre("Help"));
+  EXPECT_THAT(b.messages.vus,
+              ElementsAre(MessageVu{DepuisUtf8("Impossible d'afficher le sommaire de l'Aide. "
+                                               "Aucune Aide n'est associée à ce projet."),
+                                    Icone::information, "Gastrelle 2005"}));
+}
+
+TEST_F(Cadre, LaMarqueOkRouvreLesRecettesMaximisees) {
+  Ouvre();
+  recettes().close();
+  QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  b.module->prefs[0].fenetreNormale = 1;
+  cadre->setProperty("Tag", "ok");
+  Choisit("mnuFileProperties");
+  EXPECT_TRUE(recettes().isMaximized());
+  EXPECT_EQ(cadre->property("Tag").toString(), "");
+}
+
+TEST_F(Cadre, SansMarqueLaMaintenanceNeRouvreRien) {
+  Ouvre();
+  Choisit("mnuWindowClose");
+  QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  Choisit("mnuFilePropertiesReini");
+  EXPECT_THAT(enfants().subWindowList(), IsEmpty());
+}
+
+TEST_F(Cadre, LaFermetureRangeLaGeometrieEtRecritLesRayons) {
+  Ouvre();
+  b.module->texteRayon[14] = "Sel";
+  cadre->setGeometry(30, 45, 700, 500);
+  const QPoint place = cadre->pos();
+  cadre->close();
+  const QSettings reglages(QSettings::UserScope, "Gastrelle 2005");
+  EXPECT_EQ(reglages.value("Settings/MainLeft").toString(), QString::number(place.x() * 15));
+  EXPECT_EQ(reglages.value("Settings/MainTop").toString(), QString::number(place.y() * 15));
+  EXPECT_EQ(reglages.value("Settings/MainWidth").toString(), "10500");
+  EXPECT_EQ(reglages.value("Settings/MainHeight").toString(), "7500");
+  EXPECT_FALSE(cadre->isVisible());
+  EXPECT_EQ(b.dossier.Lit("GLMCN.DAT"), "GLMCN.DATSel");
+  EXPECT_EQ(b.module->contexteActif, 0);
+}
+
+TEST_F(Cadre, FermeReduitIlGardeLaGeometrieDAvant) {
+  QSettings(QSettings::UserScope, "Gastrelle 2005").setValue("Settings/MainWidth", "10500");
+  Ouvre();
+  EXPECT_EQ(cadre->width(), 700);
+  cadre->showMinimized();
+  cadre->close();
+  const QSettings reglages(QSettings::UserScope, "Gastrelle 2005");
+  EXPECT_EQ(reglages.value("Settings/MainWidth").toString(), "10500");
+  EXPECT_FALSE(reglages.contains("Settings/MainLeft"));
+}
+
+TEST_F(Cadre, LaPremiereOuvertureAHuitCentsSurSixCents) {
+  Ouvre();
+  EXPECT_EQ(cadre->size(), QSize(800, 600));
+}
+
+TEST_F(Cadre, DesReglagesIllisiblesPrennentLeurValeurParDefaut) {
+  QSettings reglages(QSettings::UserScope, "Gastrelle 2005");
+  reglages.setValue("Settings/MainWidth", "large");
+  reglages.setValue("Settings/MainHeight", "");
+  reglages.sync();
+  Ouvre();
+  EXPECT_EQ(cadre->size(), QSize(800, 600));
+}
+
+TEST_F(Cadre, LaCopieDeSecuriteSuitLaPreference) {
+  Ouvre();
+  cadre->close();
+  EXPECT_FALSE(b.dossier.A("SAUVE"));
+}
+
+TEST_F(Cadre, LaCopieDeSecuriteEstLaDerniereChose) {
+  Ouvre();
+  b.module->prefs[0].sansCopie = 0;
+  QTimer presse;
+  QObject::connect(&presse, &QTimer::timeout, [] {
+    const QWidget* dialogue = QApplication::activeModalWidget();
+    auto* ok = dialogue == nullptr ? nullptr : dialogue->findChild<QPushButton*>("cmdOk");
+    if (ok != nullptr && ok->isVisible()) {
+      QTest::mouseClick(ok, Qt::LeftButton);
+    }
+  });
+  presse.start(1);
+  cadre->close();
+  EXPECT_EQ(b.dossier.Lit("SAUVE/GLR3.DAT"), b.dossier.Lit("GLR3.DAT"));
+}
+
+}  // namespace
+}  // namespace gastrelle::essai

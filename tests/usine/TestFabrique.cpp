@@ -1,0 +1,284 @@
+// The factory copies as the build laid them, seen by the program that starts on a copy of them.
+
+#include <fstream>
+#include <set>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "data/ListeVivants.h"
+#include "doublures/Bibliotheque.h"
+#include "recettes/ImageRecette.h"
+#include "recettes/LectureRecettes.h"
+#include "usine/SourcesEssai.h"
+
+namespace gastrelle::usine {
+namespace {
+
+using testing::AllOf;
+using testing::Each;
+using testing::ElementsAre;
+using testing::Ge;
+using testing::Le;
+using testing::SizeIs;
+using testing::StartsWith;
+
+namespace fs = std::filesystem;
+
+/// A program folder with the factory copies and the pictures of the build, started.
+class Fabrique : public testing::Test {
+ protected:
+  void SetUp() override {
+    for (const auto& place : fs::directory_iterator(DOSSIER_PROGRAMME)) {
+      if (place.path().extension() == ".stp") {
+        fs::copy(place, b.dossier.chemin(), fs::copy_options::overwrite_existing);
+      }
+    }
+    fs::copy(fs::path(DOSSIER_PROGRAMME) / "IMAGE", b.dossier.chemin() / "IMAGE");
+    b.Demarre();
+    m = b.module.get();
+  }
+
+  /// All live records of a catalogue; the header must count exactly these, one behind the other.
+  template <class T>
+  static std::vector<T> Fiches(FichierEnregistrements<T>& fichier) {
+    std::vector<T> fiches;
+    fichier.ParcourtVivants(fichier.courant(), [&](std::int32_t numero) {
+      EXPECT_EQ(numero, static_cast<std::int32_t>(fiches.size()) + 2);
+      fiches.push_back(fichier.courant());
+    });
+    EXPECT_EQ(fichier.nbActifs(), static_cast<int>(fiches.size()));
+    EXPECT_EQ(fichier.Nombre(), static_cast<int>(fiches.size()) + 1);
+    return fiches;
+  }
+
+  /// The texts behind `posTexte` and `lgTexte` of all records.
+  template <class T>
+  static std::vector<std::string> Textes(FichierEnregistrements<T>& fichier, Reserve& reserve) {
+    std::vector<std::string> textes;
+    for (const T& fiche : Fiches(fichier)) {
+      textes.push_back(reserve.Lire(fiche.posTexte, fiche.lgTexte));
+      EXPECT_THAT(textes.back(), SizeIs(fiche.lgTexte));
+    }
+    return textes;
+  }
+
+  template <class T>
+  static std::vector<std::string> Noms(FichierEnregistrements<T>& fichier) {
+    std::vector<std::string> noms;
+    for (const T& fiche : Fiches(fichier)) {
+      noms.emplace_back(Rogne(NomOuSignature(fiche).brut()));
+    }
+    return noms;
+  }
+
+  std::vector<Annee> Annees() {
+    std::vector<Annee> annees;
+    for (std::int64_t numero = 1; numero <= m->bufMillesime.Nombre(); ++numero) {
+      RecMillesime e;
+      m->bufMillesime.Lire(numero, e);
+      annees.push_back(std::apply([&](const auto&... champ) { return Annee{(e.*champ.membre)...}; },
+                                  champs<RecMillesime>));
+    }
+    return annees;
+  }
+
+  static void AttendPleinsEtUniques(const std::vector<std::string>& textes) {
+    const std::set<std::string> differents(textes.begin(), textes.end());
+    EXPECT_EQ(differents.size(), textes.size());
+    EXPECT_FALSE(differents.contains(""));
+  }
+
+  essai::Bibliotheque b;
+  Module1* m = nullptr;
+};
+
+TEST_F(Fabrique, PasseLeDepartSansUnMot) {
+  EXPECT_THAT(b.messages.vus, SizeIs(0));
+  EXPECT_EQ(b.messages.bips, 0);
+}
+
+TEST_F(Fabrique, PorteLesNombresDeFiches) {
+  EXPECT_THAT(Fiches(m->bufRegion), SizeIs(27));
+  EXPECT_THAT(Fiches(m->bufVin), SizeIs(563));
+  EXPECT_THAT(Fiches(m->bufFromage), SizeIs(122));
+  EXPECT_THAT(Fiches(m->bufTruc), SizeIs(167));
+  EXPECT_THAT(Fiches(m->bufMenu), SizeIs(15));
+  EXPECT_THAT(Fiches(m->bufCategorie), SizeIs(3));
+  EXPECT_THAT(Fiches(m->bufFavori), SizeIs(14));
+  EXPECT_THAT(Fiches(m->bufFamille), SizeIs(Ge(15U)));
+  EXPECT_THAT(Fiches(m->bufRecette), SizeIs(Ge(200U)));
+}
+
+TEST_F(Fabrique, NommeChaqueFicheUneFois) {
+  AttendPleinsEtUniques(Noms(m->bufFamille));
+  AttendPleinsEtUniques(Noms(m->bufRecette));
+  AttendPleinsEtUniques(Noms(m->bufFromage));
+  AttendPleinsEtUniques(Noms(m->bufMenu));
+  AttendPleinsEtUniques(Noms(m->bufRegion));
+  AttendPleinsEtUniques(Noms(m->bufVin));
+  AttendPleinsEtUniques(Noms(m->bufTruc));
+  AttendPleinsEtUniques(Noms(m->bufCategorie));
+  AttendPleinsEtUniques(Noms(m->bufFavori));
+}
+
+TEST_F(Fabrique, NARienDeVideNiDeRepeteDansSesTextes) {
+  std::vector<std::string> tous;
+  for (const auto& textes :
+       {Textes(m->bufRecette, m->textesRecettes), Textes(m->bufFromage, m->textesFromages),
+        Textes(m->bufMenu, m->textesMenus), Textes(m->bufVin, m->textesVins),
+        Textes(m->bufTruc, m->textesTrucs), Textes(m->bufFavori, m->textesFavoris)}) {
+    tous.insert(tous.end(), textes.begin(), textes.end());
+  }
+  AttendPleinsEtUniques(tous);
+}
+
+TEST_F(Fabrique, DonneAChaqueVinUneNoteDeDeuxCentsCaracteres) {
+  EXPECT_THAT(Textes(m->bufVin, m->textesVins), Each(SizeIs(AllOf(Ge(200U), Le(30000U)))));
+}
+
+TEST_F(Fabrique, DonneAuMoinsUnVinAChaqueRegion) {
+  std::set<std::int32_t> peuplees;
+  for (const RecVin& vin : Fiches(m->bufVin)) {
+    peuplees.insert(vin.idRegion);
+  }
+  EXPECT_THAT(peuplees, SizeIs(27));
+  EXPECT_EQ(*peuplees.begin(), 2);
+  EXPECT_EQ(*peuplees.rbegin(), 28);
+}
+
+TEST_F(Fabrique, DonneUneAdresseAChaqueFavori) {
+  for (const RecFavori& favori : Fiches(m->bufFavori)) {
+    EXPECT_THAT(m->textesFavoris.Lire(favori.posAdresse, favori.lgAdresse),
+                SizeIs(AllOf(Ge(1U), Le(512U))));
+    EXPECT_THAT(favori.idCategorie, AllOf(Ge(2), Le(4)));
+  }
+}
+
+TEST_F(Fabrique, LaisseLaCaveVide) {
+  for (const RecVin& vin : Fiches(m->bufVin)) {
+    EXPECT_EQ(vin.nbBlanc + vin.nbRouge + vin.nbRose + vin.nbChampagne + vin.nbVinDoux +
+                  vin.nbJaune + vin.nbPaille + vin.nbMousseux + vin.nbGris,
+              0);
+    EXPECT_EQ(vin.posNotesCave, 0);
+  }
+}
+
+TEST_F(Fabrique, NoteLesMillesimesDepuis1928) {
+  const std::vector<Annee> annees = Annees();
+  EXPECT_THAT(annees, SizeIs(Ge(2023U - 1927U)));
+  EXPECT_THAT(annees, Each(Each(AllOf(Ge(0), Le(5)))));
+  EXPECT_EQ(annees[1961 - 1928][0], 5);  // red Bordeaux of 1961: nobody disputes that one
+}
+
+TEST_F(Fabrique, LaisseLesRayonsVides) {
+  EXPECT_THAT(m->texteRayon, Each(""));
+  EXPECT_EQ(b.dossier.Lit("GLMC.stp").size(), 15U * 8U);
+}
+
+TEST_F(Fabrique, ListeDesRecettesDansChaqueFamille) {
+  std::size_t recettes = 0;
+  for (const auto& famille : ListeFamilles(*m)) {
+    const ListeComptee liste = RecettesDeFamille(*m, famille.donnee);
+    EXPECT_FALSE(liste.liste.empty()) << VersUtf8(famille.texte);
+    recettes += liste.liste.size();
+  }
+  EXPECT_EQ(recettes, Fiches(m->bufRecette).size());
+}
+
+TEST_F(Fabrique, MontreUneImageAChaqueRecette) {
+  for (const auto& entree : ToutesRecettes(*m).liste) {
+    const RecetteLue recette = LitRecette(*m, entree.donnee);
+    EXPECT_TRUE(recette.associee) << VersUtf8(entree.texte);
+    EXPECT_EQ(recette.imagePerdue, "");
+    std::ifstream image(VersUtf8(recette.image), std::ios::binary);
+    std::string debut(3, ' ');
+    image.read(debut.data(), 3);
+    EXPECT_EQ(debut, "\xFF\xD8\xFF") << VersUtf8(recette.image);
+    EXPECT_EQ(GenreDe(recette.image), GenreImage::affichable);
+  }
+}
+
+TEST_F(Fabrique, DonneUneImageAChaqueFamille) {
+  std::set<std::string> images;
+  for (const RecRecette& recette : Fiches(m->bufRecette)) {
+    images.insert(m->cheminsImages.Lire(recette.posImage, recette.lgImage));
+  }
+  EXPECT_EQ(images.size(), Fiches(m->bufFamille).size());
+  EXPECT_THAT(images, Each(StartsWith("/")));
+}
+
+/// What the build laid is what the sources say.
+class FabriqueDesSources : public Fabrique {
+ protected:
+  template <class Entree>
+  static std::vector<std::string> Colonne(const std::vector<Entree>& entrees,
+                                          std::string Entree::*membre) {
+    std::vector<std::string> valeurs;
+    for (const Entree& entree : entrees) {
+      valeurs.push_back(entree.*membre);
+    }
+    return valeurs;
+  }
+
+  Journal journal;
+  Catalogues c = LitCatalogues(DOSSIER_CATALOGUES, fs::path(DOSSIER_PROGRAMME) / "IMAGE", journal);
+};
+
+TEST_F(FabriqueDesSources, NeRefuseRien) {
+  EXPECT_THAT(journal.refus(), SizeIs(0));
+}
+
+TEST_F(FabriqueDesSources, RendLesNoms) {
+  EXPECT_EQ(Noms(m->bufFamille), c.familles);
+  EXPECT_EQ(Noms(m->bufRecette), Colonne(c.recettes, &Recette::titre));
+  EXPECT_EQ(Noms(m->bufFromage), Colonne(c.fromages, &Fromage::nom));
+  EXPECT_EQ(Noms(m->bufMenu), Colonne(c.menus, &Fiche::titre));
+  EXPECT_EQ(Noms(m->bufRegion), c.regions);
+  EXPECT_EQ(Noms(m->bufVin), Colonne(c.vins, &Vin::nom));
+  EXPECT_EQ(Noms(m->bufTruc), Colonne(c.trucs, &Fiche::titre));
+  EXPECT_EQ(Noms(m->bufCategorie), c.categories);
+  EXPECT_EQ(Noms(m->bufFavori), Colonne(c.favoris, &Favori::nom));
+}
+
+TEST_F(FabriqueDesSources, RendLesTextes) {
+  EXPECT_EQ(Textes(m->bufRecette, m->textesRecettes), Colonne(c.recettes, &Recette::texte));
+  EXPECT_EQ(Textes(m->bufFromage, m->textesFromages), Colonne(c.fromages, &Fromage::texte));
+  EXPECT_EQ(Textes(m->bufMenu, m->textesMenus), Colonne(c.menus, &Fiche::texte));
+  EXPECT_EQ(Textes(m->bufVin, m->textesVins), Colonne(c.vins, &Vin::texte));
+  EXPECT_EQ(Textes(m->bufTruc, m->textesTrucs), Colonne(c.trucs, &Fiche::texte));
+  EXPECT_EQ(Textes(m->bufFavori, m->textesFavoris), Colonne(c.favoris, &Favori::notes));
+}
+
+TEST_F(FabriqueDesSources, RendLesAnnees) {
+  EXPECT_EQ(Annees(), c.millesimes);
+}
+
+TEST(ProgrammeFabrique, EcritLesDixNeufCopiesDeBonnesSources) {
+  const SourcesEssai sources;
+  const SourcesEssai::Execution execution = sources.LanceFabrique();
+  EXPECT_EQ(execution.statut, 0);
+  EXPECT_THAT(execution.erreurs, SizeIs(0));
+  EXPECT_THAT(execution.ecrits, AllOf(SizeIs(19), Each(StartsWith("GL"))));
+}
+
+TEST(ProgrammeFabrique, LaisseLesAnciennesCopiesQuandIlRefuse) {
+  SourcesEssai sources;
+  std::ofstream(sources.sortie() / "GLR1.stp") << "ancienne";
+  sources.Supprime("menus.toml");
+  EXPECT_EQ(sources.LanceFabrique().statut, 1);
+  std::string reste;
+  std::getline(std::ifstream(sources.sortie() / "GLR1.stp"), reste);
+  EXPECT_EQ(reste, "ancienne");
+}
+
+TEST(ProgrammeFabrique, DitUnePanneALEcriture) {
+  SourcesEssai sources;
+  fs::create_directory(sources.sortie() / "GLV2.stp");
+  const SourcesEssai::Execution execution = sources.LanceFabrique();
+  EXPECT_EQ(execution.statut, 1);
+  EXPECT_THAT(execution.erreurs, ElementsAre("fabrique : Erreur d'accès au fichier"));
+}
+
+}  // namespace
+}  // namespace gastrelle::usine
