@@ -162,7 +162,7 @@ int main(int argc, char** argv) {
     gastrelle::essai::Bibliotheque bibliotheque;
     qputenv("XDG_RUNTIME_DIR", bibliotheque.dossier.chemin().c_str());
     const gastrelle::Application application(argc, argv, bibliotheque.messages,
-                                             bibliotheque.processus);
+                                             bibliotheque.pointeur, bibliotheque.processus);
     return gastrelle::bancs::Mesure(bibliotheque);
   } catch (const std::exception& erreur) {
     std::fprintf(stderr, "%s\n", erreur.what());

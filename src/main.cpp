@@ -36,7 +36,7 @@ int main(int argc, char** argv) {
   AssociationSysteme association;
   SonSysteme son;
   ProcessusSysteme processus;
-  Application application(argc, argv, messages, processus);
+  Application application(argc, argv, messages, pointeur, processus);
   ClavierSysteme clavier(EcranX11(application));
 
   const std::filesystem::path dossier = QApplication::applicationDirPath().toStdU16String();
@@ -53,6 +53,6 @@ int main(int argc, char** argv) {
     });
     return QApplication::exec();
   } catch (const ErreurExecution& erreur) {
-    FinSurErreur(erreur, messages, processus);
+    FinSurErreur(erreur, messages, pointeur, processus);
   }
 }

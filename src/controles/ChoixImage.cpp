@@ -3,13 +3,13 @@
 #include <QDir>
 #include <QFileDialog>
 
-#include "controles/Conversion.h"
+#include "data/ProceduresFichiers.h"
 
 namespace gastrelle {
 
 std::optional<std::string> ChoisitImage(Module1& module, QWidget* parent) {
   QFileDialog dialogue(parent, QStringLiteral("Rechercher une image"),
-                       VersQt(module.chemins.De("IMAGE")));
+                       QString::fromStdString(CheminSysteme(module, module.chemins.De("IMAGE"))));
   dialogue.setObjectName(QStringLiteral("CommonDialog1"));
   dialogue.setFileMode(QFileDialog::ExistingFile);
   // What follows each caption is matched without regard to case, in the system's dialogs too.
@@ -23,13 +23,12 @@ std::optional<std::string> ChoisitImage(Module1& module, QWidget* parent) {
   if (dialogue.exec() != QDialog::Accepted || dialogue.selectedFiles().isEmpty()) {
     return std::nullopt;
   }
-  bool perte = false;
-  const QString chemin =
-      Acceptable(QDir::toNativeSeparators(dialogue.selectedFiles().constFirst()), perte);
-  if (perte) {
-    module.services.messages.Bip();
+  const QString choisi = QDir::toNativeSeparators(dialogue.selectedFiles().constFirst());
+  std::string chemin = CheminProgramme(module, choisi.toStdString());
+  if (CheminSysteme(module, chemin) != choisi.toStdString()) {
+    module.services.messages.Bip();  // the files can't hold the name as it is
   }
-  return DepuisQt(chemin);
+  return chemin;
 }
 
 }  // namespace gastrelle

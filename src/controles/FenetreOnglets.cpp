@@ -7,17 +7,26 @@
 
 #include "controles/Conversion.h"
 #include "controles/Icones.h"
+#include "controles/Touches.h"
 #include "controles/ZoneTexte.h"
 #include "data/ProceduresFichiers.h"
 
 namespace gastrelle {
+namespace {
+
+constexpr int lettres = 116;
+constexpr int lignes = 35;
+constexpr int moindresLignes = 27;
+
+}  // namespace
 
 FenetreOnglets::FenetreOnglets(Module1& module, Cadre& cadre, const DescriptionFenetre& description)
     : module_(module),
       cadre_(cadre),
       description_(description),
       TabStrip1_(new QTabBar(this)),
-      cadres_(new QStackedWidget(this)) {
+      cadres_(new QStackedWidget(this)),
+      pages_(description.onglets.size()) {
   constexpr int marge = 6;
   setObjectName(QLatin1String(description.nom));
   setWindowTitle(QString::fromUtf16(description.titre));
@@ -25,6 +34,10 @@ FenetreOnglets::FenetreOnglets(Module1& module, Cadre& cadre, const DescriptionF
   TabStrip1_->setAccessibleName(QStringLiteral("Onglets"));
   TabStrip1_->setExpanding(false);
   TabStrip1_->setDocumentMode(true);
+  for (const DescriptionOnglet& onglet : description.onglets) {
+    const int indice = TabStrip1_->addTab(QString::fromUtf16(onglet.titre));
+    TabStrip1_->setTabToolTip(indice, QString::fromUtf16(onglet.infobulle));
+  }
   auto* fond = new QVBoxLayout(this);
   fond->setContentsMargins(marge, marge, marge, marge);
   fond->setSpacing(0);
@@ -34,15 +47,22 @@ FenetreOnglets::FenetreOnglets(Module1& module, Cadre& cadre, const DescriptionF
           [this](int indice) { ClicOnglet(indice + 1); });
 }
 
-const DescriptionOnglet& FenetreOnglets::AjoutePage(PageOnglet& page) {
-  const DescriptionOnglet& onglet = description_.onglets[pages_.size()];
-  page.setObjectName(QStringLiteral("Frame1(%1)").arg(ProchainePage()));
-  pages_.push_back(&page);
-  cadres_->addWidget(&page);
-  const QSignalBlocker silence(TabStrip1_);
-  const int indice = TabStrip1_->addTab(QString::fromUtf16(onglet.titre));
-  TabStrip1_->setTabToolTip(indice, QString::fromUtf16(onglet.infobulle));
-  return onglet;
+PageOnglet& FenetreOnglets::Page(int onglet) {
+  PageOnglet*& page = pages_[static_cast<std::size_t>(onglet) - 1];
+  if (page == nullptr) {
+    ongletEnConstruction_ = onglet;
+    page = &descriptionEnConstruction().cree(*this);
+    cadres_->addWidget(page);
+  }
+  return *page;
+}
+
+const DescriptionOnglet& FenetreOnglets::descriptionEnConstruction() const {
+  return description_.onglets[static_cast<std::size_t>(ongletEnConstruction_) - 1];
+}
+
+Vue FenetreOnglets::VueCourante() const {
+  return pages_[static_cast<std::size_t>(ongletCourant_) - 1]->VueCourante();
 }
 
 QIcon FenetreOnglets::logo() const {
@@ -78,6 +98,19 @@ void FenetreOnglets::closeEvent(QCloseEvent* evenement) {
   evenement->accept();
 }
 
+QSize FenetreOnglets::sizeHint() const {
+  return FenetreEnfant::sizeHint().expandedTo(Place(lettres, lignes));
+}
+
+QSize FenetreOnglets::minimumSizeHint() const {
+  return FenetreEnfant::minimumSizeHint().expandedTo(Place(lettres, moindresLignes));
+}
+
+QSize FenetreOnglets::Place(int lettresDeLarge, int lignesDeHaut) const {
+  const QFontMetrics metrique = fontMetrics();
+  return {lettresDeLarge * metrique.averageCharWidth(), lignesDeHaut * metrique.lineSpacing()};
+}
+
 void FenetreOnglets::RazCadre() {
   cadre_.QuitteContexte(description_.vue);
 }
@@ -95,11 +128,11 @@ void FenetreOnglets::ClicOnglet(int onglet) {
                                     return refus.de == ongletCourant_ && refus.vers == onglet;
                                   });
   if (refuse) {
-    module_.services.son.Joue(VersUtf8(module_.chemins.De("Exclamation")));
+    module_.services.son.Joue(CheminSysteme(module_, module_.chemins.De("Exclamation")));
     ChoisitOnglet(ongletCourant_);
     return;
   }
-  cadres_->setCurrentIndex(onglet - 1);
+  cadres_->setCurrentWidget(&Page(onglet));
   ongletCourant_ = onglet;
   EtatOnglet();
 }
@@ -126,12 +159,16 @@ bool FenetreOnglets::ConfirmeEffacement(std::initializer_list<const QWidget*> bo
 }
 
 void FenetreOnglets::EtatOnglet() {
+  PageOnglet& page = Page(ongletCourant_);
   const std::string annonce = Annonce();
-  for (PageOnglet* page : pages_) {
-    page->PoseAnnonce(annonce);
+  for (PageOnglet* faite : pages_) {
+    if (faite != nullptr) {
+      faite->PoseAnnonce(annonce);
+    }
   }
+  setProperty(proprieteSujet, page.property(proprieteSujet));
   cadre_.PoseContexte(static_cast<std::int16_t>(description_.contexteBase + ongletCourant_));
-  pages_[static_cast<std::size_t>(ongletCourant_) - 1]->Entre();
+  page.Entre();
 }
 
 }  // namespace gastrelle

@@ -33,16 +33,25 @@ struct DescriptionFenetre {
   const char* logo;           ///< picture of the logo band
   std::span<const DescriptionOnglet> onglets;
   std::span<const ChangementRefuse> refus;
-  bool razReduite = false;  ///< resets the frame when it is minimised
+  bool razReduite = false;   ///< resets the frame when it is minimised
+  bool ligneDuLogo = false;  ///< what the logo's tooltip says stands in its band as well
 };
 
+/// A page is made when its tab is first entered: what isn't looked at costs nothing.
 class FenetreOnglets : public FenetreEnfant {
  public:
+  static constexpr int ongletListe = 1;
+
   FenetreOnglets(Module1& module, Cadre& cadre, const DescriptionFenetre& description);
 
   void Active() override;
   void Desactive() override;
   void Reduit() override;
+  [[nodiscard]] Vue VueCourante() const override;
+
+  /// Room for the largest of all pages: the window's size never depends on those made so far.
+  [[nodiscard]] QSize sizeHint() const override;
+  [[nodiscard]] QSize minimumSizeHint() const override;
 
   /// Selects a tab (from 1) as a click would.
   void ChoisitOnglet(int onglet);
@@ -62,28 +71,34 @@ class FenetreOnglets : public FenetreEnfant {
   /// Asks before entries are wiped out, if any of the boxes holds text. True: go on.
   [[nodiscard]] bool ConfirmeEffacement(std::initializer_list<const QWidget*> boites);
 
-  /// Number of the page that comes next, from 1, and its adding.
-  [[nodiscard]] int ProchainePage() const { return static_cast<int>(pages_.size()) + 1; }
-  const DescriptionOnglet& AjoutePage(PageOnglet& page);
+  /// The page that is being made: its tab's number, from 1, and what describes it.
+  [[nodiscard]] int ongletEnConstruction() const { return ongletEnConstruction_; }
+  [[nodiscard]] const DescriptionOnglet& descriptionEnConstruction() const;
   [[nodiscard]] QIcon logo() const;
+  [[nodiscard]] bool ligneDuLogo() const { return description_.ligneDuLogo; }
 
  protected:
   /// What stands in the logo band of every tab, Windows-1252.
   [[nodiscard]] virtual std::string Annonce() = 0;
+
+  /// The page of a tab (from 1), made at the first call.
+  PageOnglet& Page(int onglet);
 
   void closeEvent(QCloseEvent* evenement) override;
 
  private:
   void ClicOnglet(int onglet);
   void RazCadre();
+  [[nodiscard]] QSize Place(int lettresDeLarge, int lignesDeHaut) const;
 
   Module1& module_;
   Cadre& cadre_;
   const DescriptionFenetre& description_;
   QTabBar* TabStrip1_;
   QStackedWidget* cadres_;
-  std::vector<PageOnglet*> pages_;
-  int ongletCourant_ = 1;
+  std::vector<PageOnglet*> pages_;  ///< by tab; null as long as nobody entered it
+  int ongletCourant_ = ongletListe;
+  int ongletEnConstruction_ = ongletListe;
 };
 
 }  // namespace gastrelle

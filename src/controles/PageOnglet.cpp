@@ -56,16 +56,26 @@ ZoneTexte* Annonce(int numero, QWidget* parent) {
 
 PageOnglet::PageOnglet(FenetreOnglets& hote)
     : QWidget(&hote),
-      annonce_(Annonce(hote.ProchainePage(), this)),
+      annonce_(Annonce(hote.ongletEnConstruction(), this)),
       options_(new QHBoxLayout),
       contenu_(new QGridLayout),
       boutons_(new QHBoxLayout) {
-  const DescriptionOnglet& description = hote.AjoutePage(*this);
+  const DescriptionOnglet& description = hote.descriptionEnConstruction();
+  setObjectName(QStringLiteral("Frame1(%1)").arg(hote.ongletEnConstruction()));
   setProperty(proprieteSujet, QLatin1String(description.sujetAide));
   auto* bande = new QHBoxLayout;
   bande->addWidget(Logo(hote.logo(), QString::fromUtf16(description.infobulleLogo), this));
   bande->addSpacing(margePage);
-  bande->addWidget(Entete(QString::fromUtf16(description.entete), this), 1);
+  auto* titres = new QVBoxLayout;
+  titres->addStretch(1);
+  titres->addWidget(Entete(QString::fromUtf16(description.entete), this));
+  if (hote.ligneDuLogo()) {
+    auto* ligne = new QLabel(QString::fromUtf16(description.infobulleLogo), this);
+    ligne->setObjectName(QStringLiteral("lblLigneLogo"));
+    titres->addWidget(ligne);
+  }
+  titres->addStretch(1);
+  bande->addLayout(titres, 1);
   bande->addWidget(annonce_);
 
   options_->setSpacing(2 * margePage);
@@ -98,6 +108,16 @@ QLabel* PageOnglet::Legende(const QString& texte, QWidget* pour) {
   QString nom = texte;
   pour->setAccessibleName(nom.remove(u'&'));
   return legende;
+}
+
+void PageOnglet::OrdonneClavier(std::initializer_list<QWidget*> controles) {
+  QWidget* avant = nullptr;
+  for (QWidget* controle : controles) {
+    if (avant != nullptr) {
+      setTabOrder(avant, controle);
+    }
+    avant = controle;
+  }
 }
 
 int PageOnglet::Rang(const QString& legende, QWidget* controle) {

@@ -20,9 +20,32 @@ void PeintLectureSeule(QWidget* boite) {
   boite->setPalette(palette);
 }
 
-/// Raw text of a document with "\n" between its lines: no-break spaces stay what they are.
+/// A foreign file may hold a line feed or a carriage return alone: they break no line as CR LF
+/// does, and come back as they were. On the screen these stand for them.
+constexpr QChar lfSeul{QChar::LineSeparator};
+constexpr QChar crSeul{u'\x85'};
+
+QString Montrable(std::string_view texte) {
+  return VersQt(texte)
+      .replace(QStringLiteral("\r\n"), QString(QChar::ParagraphSeparator))
+      .replace(QChar(u'\n'), lfSeul)
+      .replace(QChar(u'\r'), crSeul);
+}
+
+/// The text of a document with CR LF between its lines: no-break spaces stay what they are.
 QString TexteBrut(const QTextDocument& document) {
-  return document.toRawText().replace(QChar::ParagraphSeparator, QChar(u'\n'));
+  return document.toRawText()
+      .replace(lfSeul, QChar(u'\n'))
+      .replace(crSeul, QChar(u'\r'))
+      .replace(QChar::ParagraphSeparator, QStringLiteral("\r\n"));
+}
+
+/// What a pasted text is in a box of one line: its line breaks and tabs are blanks.
+QString UneLigne(QString texte) {
+  for (const char16_t separateur : {u'\r', u'\n', u'\t', u'\x2028', u'\x2029'}) {
+    texte.replace(QChar(separateur), QChar(u' '));
+  }
+  return texte;
 }
 
 /// Length as stored: a line break is two characters.
@@ -46,12 +69,12 @@ ZoneTexte::ZoneTexte(const QString& nom, int limite, QWidget* parent)
 
 void ZoneTexte::PoseTexte(std::string_view texte) {
   parCode_ = true;
-  setPlainText(VersEcran(texte));
+  setPlainText(Montrable(texte));
   parCode_ = false;
 }
 
 std::string ZoneTexte::Texte() const {
-  return DepuisQt(TexteBrut(*document()).replace(u'\n', QStringLiteral("\r\n")));
+  return DepuisQt(TexteBrut(*document()));
 }
 
 void ZoneTexte::RendLectureSeule() {
@@ -79,7 +102,8 @@ void ZoneTexte::CorrigePassage(int debut, int fin) {
   QString saisi = passage.selectedText();
   const QString avant = saisi;
   saisi.replace(QChar::ParagraphSeparator, QChar(u'\n'))
-      .replace(QChar::LineSeparator, QChar(u'\n'));
+      .replace(lfSeul, QChar(u'\n'))
+      .replace(crSeul, QChar(u'\n'));
   bool perte = false;
   QString garde = Acceptable(saisi, perte);
   const qsizetype trop =
@@ -124,7 +148,7 @@ void LigneTexte::RendLectureSeule() {
 
 void LigneTexte::Corrige(const QString& saisi) {
   bool perte = false;
-  const QString garde = Acceptable(saisi, perte);
+  const QString garde = UneLigne(Acceptable(saisi, perte));
   if (perte) {
     QApplication::beep();
   }

@@ -56,7 +56,12 @@ std::string_view Chemins::Relatif(std::string_view chemin) const {
   const bool dedans =
       chemin.size() > cheminAppli_.size() &&
       CasseComparee(convention_, chemin.substr(0, cheminAppli_.size())) == cheminAppli_;
-  return dedans ? chemin.substr(cheminAppli_.size()) : std::string_view{};
+  if (!dedans) {
+    return {};
+  }
+  // Separators that stand double count once, as they do for the system.
+  const std::size_t debut = chemin.find_first_not_of(separateur(), cheminAppli_.size());
+  return debut == std::string_view::npos ? std::string_view{} : chemin.substr(debut);
 }
 
 }  // namespace gastrelle

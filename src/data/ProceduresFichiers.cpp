@@ -80,18 +80,37 @@ bool DossierExiste(Module1& module, std::string_view nom) {
   return Trouve([&] { return module.services.disque.DossierExiste(std::string(nom)); });
 }
 
+namespace {
+
+/// A path of the program's own folder, from there on, as AccesFichiers takes it; empty for a path
+/// that leads elsewhere.
+std::string NomInterne(const Module1& module, std::string_view chemin) {
+  std::string nom = VersUtf8(module.chemins.Relatif(chemin));
+  if constexpr (conventionDuSysteme == Convention::windows) {
+    std::replace(nom.begin(), nom.end(), '\\', '/');
+  }
+  return nom;
+}
+
+}  // namespace
+
+std::string CheminSysteme(Module1& module, std::string_view chemin) {
+  const std::string nom = NomInterne(module, chemin);
+  return nom.empty() ? VersUtf8(chemin) : module.services.disque.CheminEntier(nom);
+}
+
+std::string CheminProgramme(Module1& module, const std::string& chemin) {
+  const std::string dossier = module.services.disque.CheminEntier({});
+  return chemin.starts_with(dossier)
+             ? module.chemins.De(DepuisUtf8(std::string_view(chemin).substr(dossier.size())))
+             : DepuisUtf8(chemin);
+}
+
 bool ImageExiste(Module1& module, std::string_view chemin) {
-  // A path in the program's own folder is looked up there, whatever the folder's own name holds.
-  const std::string_view relatif = module.chemins.Relatif(chemin);
   return !chemin.empty() && Trouve([&] {
-    if (relatif.empty()) {
-      return module.services.disque.ExisteAilleurs(VersUtf8(chemin));
-    }
-    std::string nom = VersUtf8(relatif);
-    if constexpr (conventionDuSysteme == Convention::windows) {
-      std::replace(nom.begin(), nom.end(), '\\', '/');
-    }
-    return module.services.disque.Existe(nom);
+    const std::string nom = NomInterne(module, chemin);
+    return nom.empty() ? module.services.disque.ExisteAilleurs(VersUtf8(chemin))
+                       : module.services.disque.Existe(nom);
   });
 }
 

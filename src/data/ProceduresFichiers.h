@@ -25,6 +25,14 @@ void ExigeFichierOuFin(Module1& module, Donnees fichier);
 /// True if the program's folder holds a folder of that name. Silent.
 [[nodiscard]] bool DossierExiste(Module1& module, std::string_view nom);
 
+/// A path of the program (Windows-1252) as the system knows it, in UTF-8. A path in the program's
+/// own folder is taken from there, whatever the folder's own name holds.
+[[nodiscard]] std::string CheminSysteme(Module1& module, std::string_view chemin);
+
+/// The other way: a whole path of the system (UTF-8) as the program knows it. What Windows-1252
+/// doesn't hold becomes "?", except in the name of the program's own folder.
+[[nodiscard]] std::string CheminProgramme(Module1& module, const std::string& chemin);
+
 /// True if a picture stands at that path. A search that fails in any way counts as not found.
 [[nodiscard]] bool ImageExiste(Module1& module, std::string_view chemin);
 

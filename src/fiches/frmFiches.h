@@ -8,23 +8,16 @@
 namespace gastrelle {
 
 class frmFichesListe;
-class frmFichesAjouter;
-class frmFichesModifier;
-class frmFichesSupprimer;
 
 class frmFiches : public FenetreOnglets {
  public:
-  static constexpr int ongletListe = 1;
-
   /// Fills the list and shows its first entry.
   frmFiches(Module1& module, Cadre& cadre, const DescriptionFiches& description);
-
-  [[nodiscard]] Vue VueCourante() const override;
 
   [[nodiscard]] const DescriptionFiches& description() const { return description_; }
   [[nodiscard]] CatalogueFiches& catalogue() { return catalogue_; }
   /// The tab on which the record of the whole window is selected.
-  [[nodiscard]] frmFichesListe& liste() { return *liste_; }
+  [[nodiscard]] frmFichesListe& liste() { return liste_; }
 
  protected:
   [[nodiscard]] std::string Annonce() override;
@@ -32,10 +25,7 @@ class frmFiches : public FenetreOnglets {
  private:
   const DescriptionFiches& description_;
   CatalogueFiches catalogue_;
-  frmFichesListe* liste_;
-  frmFichesAjouter* ajouter_;
-  frmFichesModifier* modifier_;
-  frmFichesSupprimer* supprimer_;
+  frmFichesListe& liste_;
 };
 
 }  // namespace gastrelle

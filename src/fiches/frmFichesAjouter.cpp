@@ -13,7 +13,7 @@ frmFichesAjouter::frmFichesAjouter(frmFiches& hote)
       Bouton(QStringLiteral("cmdValideAjouter"), QStringLiteral("&Valider"),
              QStringLiteral("valider"), QStringLiteral("Valider les saisies"), this);
   QPushButton* cmdEffacerAjouter =
-      Bouton(QStringLiteral("cmdEffacerAjouter"), QStringLiteral("E&ffacer"),
+      Bouton(QStringLiteral("cmdEffacerAjouter"), QStringLiteral("Effa&cer"),
              QStringLiteral("effacer"), QStringLiteral("Effacer toutes les saisies"), this);
   boutons().addWidget(cmdValideAjouter);
   boutons().addWidget(cmdEffacerAjouter);
@@ -40,7 +40,7 @@ void frmFichesAjouter::Valide() {
     const std::int32_t numero = hote().catalogue().Ajoute(nouveau, sonTexte);
     ComboListe& combo = *hote().liste().combo;
     combo.Ajoute({nouveau, numero});
-    hote().ChoisitOnglet(frmFiches::ongletListe);
+    hote().ChoisitOnglet(FenetreOnglets::ongletListe);
     combo.ChoisitDonnee(numero);
   });
 }

@@ -43,4 +43,8 @@ void frmFichesListe::Entre() {
   DonneFocus(texte);
 }
 
+Vue frmFichesListe::VueCourante() const {
+  return hote_.description().vue(combo->Texte(), texte->Texte());
+}
+
 }  // namespace gastrelle

@@ -22,6 +22,7 @@ class frmFichesListe final : public PageOnglet {
   void Recharge();
   /// The entry rule of the tab.
   void Entre() override;
+  [[nodiscard]] Vue VueCourante() const override;
 
  private:
   void Affiche();

@@ -44,7 +44,7 @@ void frmFichesModifier::Valide() {
     hote().catalogue().Change(numero, nouveau, sonTexte);
     hote().liste().Recharge();
     const int indice = combo.IndiceDe(numero);
-    hote().ChoisitOnglet(frmFiches::ongletListe);
+    hote().ChoisitOnglet(FenetreOnglets::ongletListe);
     combo.Choisit(indice);
   });
 }

@@ -51,7 +51,7 @@ void frmFichesSupprimer::Supprime() {
     frmFichesListe& liste = hote().liste();
     hote().catalogue().Supprime(liste.combo->Donnee());
     liste.Recharge();
-    hote().ChoisitOnglet(frmFiches::ongletListe);
+    hote().ChoisitOnglet(FenetreOnglets::ongletListe);
     liste.combo->Choisit(0);
   });
 }

@@ -3,6 +3,10 @@
 #include <array>
 
 #include "data/Texte1252.h"
+#include "fiches/frmFichesAjouter.h"
+#include "fiches/frmFichesListe.h"
+#include "fiches/frmFichesModifier.h"
+#include "fiches/frmFichesSupprimer.h"
 
 namespace gastrelle {
 namespace {
@@ -11,13 +15,13 @@ constexpr std::int16_t contexteBase = 30;
 
 constexpr std::array<DescriptionOnglet, 4> onglets{{
     {u"Liste", u"Les recettes mémorisées", u"Liste des menus mémorisés", u"Faites votre choix !",
-     "menus-liste"},
+     "menus-liste", CreePage<frmFiches, frmFichesListe>},
     {u"Ajouter", u"Ajouter une famille de recettes ou une recette", u"Ajout d'un menu", u"",
-     "menus-ajouter"},
+     "menus-ajouter", CreePage<frmFiches, frmFichesAjouter>},
     {u"Modifier", u"Modifier le nom de la famille de recettes ou une recette",
-     u"Modification d'un menu", u"", "menus-modifier"},
+     u"Modification d'un menu", u"", "menus-modifier", CreePage<frmFiches, frmFichesModifier>},
     {u"Supprimer", u"Supprimer la famille de recettes ou la recette", u"Suppression d'un menu", u"",
-     "menus-supprimer"},
+     "menus-supprimer", CreePage<frmFiches, frmFichesSupprimer>},
 }};
 
 constexpr DescriptionFiches descriptionMenus{

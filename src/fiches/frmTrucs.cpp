@@ -3,6 +3,10 @@
 #include <array>
 
 #include "data/Texte1252.h"
+#include "fiches/frmFichesAjouter.h"
+#include "fiches/frmFichesListe.h"
+#include "fiches/frmFichesModifier.h"
+#include "fiches/frmFichesSupprimer.h"
 
 namespace gastrelle {
 namespace {
@@ -11,16 +15,17 @@ constexpr std::int16_t contexteBase = 60;
 
 constexpr std::array<DescriptionOnglet, 4> onglets{{
     {u"Liste", u"Les termes, truc et astuces mémorisés", u"Liste des termes, trucs et astuces",
-     u"Tous les termes, trucs et astuces", "trucs-liste"},
+     u"Tous les termes, trucs et astuces", "trucs-liste", CreePage<frmFiches, frmFichesListe>},
     {u"Ajouter", u"Ajouter une famille de recettes ou une recette",
      u"Ajout d'un terme, truc ou astuce",
-     u"Vous ajoutez un terme, truc ou astuce à la base de données", "trucs-ajouter"},
+     u"Vous ajoutez un terme, truc ou astuce à la base de données", "trucs-ajouter",
+     CreePage<frmFiches, frmFichesAjouter>},
     {u"Modifier", u"Modifier le nom de la famille de recettes ou une recette",
      u"Modification d'un terme, truc ou astuce", u"Vous modifiez le terme, truc ou astuce affiché",
-     "trucs-modifier"},
+     "trucs-modifier", CreePage<frmFiches, frmFichesModifier>},
     {u"Supprimer", u"Supprimer la famille de recettes ou la recette",
      u"Suppression d'un terme, truc ou astuce", u"Vous supprimez le terme, truc ou astuce affiché",
-     "trucs-supprimer"},
+     "trucs-supprimer", CreePage<frmFiches, frmFichesSupprimer>},
 }};
 
 constexpr DescriptionFiches descriptionTrucs{

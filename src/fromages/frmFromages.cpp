@@ -15,15 +15,18 @@ namespace {
 
 constexpr std::array<DescriptionOnglet, 5> onglets{{
     {u"Liste", u"Les fromages mémorisées", u"Liste des fromages mémorisés", u"Bon appétit !",
-     "fromages-liste"},
+     "fromages-liste", CreePage<frmFromages, frmFromagesListe>},
     {u"Ajouter", u"Ajouter un fromage", u"Ajout d'un fromage",
-     u"Vous ajoutez un fromage à la base de données", "fromages-ajouter"},
+     u"Vous ajoutez un fromage à la base de données", "fromages-ajouter",
+     CreePage<frmFromages, frmFromagesAjouter>},
     {u"Modifier", u"Modifier le fromage", u"Modification d'un fromage",
-     u"Vous modifiez le fromage affiché", "fromages-modifier"},
+     u"Vous modifiez le fromage affiché", "fromages-modifier",
+     CreePage<frmFromages, frmFromagesModifier>},
     {u"Supprimer", u"Supprimer le fromage", u"Suppression d'un fromage",
-     u"Vous supprimez le fromage affiché", "fromages-supprimer"},
+     u"Vous supprimez le fromage affiché", "fromages-supprimer",
+     CreePage<frmFromages, frmFromagesSupprimer>},
     {u"Trier", u"Trier par lait", u"Tri des fromages", u"Vous triez les fromages par type de lait",
-     "fromages-trier"},
+     "fromages-trier", CreePage<frmFromages, frmFromagesTrier>},
 }};
 
 // From the sorting only the list and the addition can be reached: change and deletion start from a
@@ -32,48 +35,33 @@ constexpr std::array<ChangementRefuse, 2> refus{{{5, 3}, {5, 4}}};
 
 constexpr std::int16_t contexteBase = 20;
 constexpr bool razReduite = true;
+constexpr bool ligneDuLogo = true;
 
 constexpr DescriptionFenetre description{"frmFromages", u"Les fromages", EntreeVue::fromages,
                                          contexteBase,  "logo-fromages", onglets,
-                                         refus,         razReduite};
+                                         refus,         razReduite,      ligneDuLogo};
 
 }  // namespace
 
 frmFromages::frmFromages(Module1& module, Cadre& cadre)
     : FenetreOnglets(module, cadre, description),
-      liste_(new frmFromagesListe(*this)),
-      ajouter_(new frmFromagesAjouter(*this)),
-      modifier_(new frmFromagesModifier(*this)),
-      supprimer_(new frmFromagesSupprimer(*this)),
-      trier_(new frmFromagesTrier(*this)) {
+      liste_(static_cast<frmFromagesListe&>(Page(ongletListe))) {
   Garde(module, [&] {
     ExigeFichier(module, Donnees::GLF1);
     RechargeFromages();
   });
-  liste_->ComboFromages->Choisit(0);
+  liste_.ComboFromages->Choisit(0);
 }
 
 void frmFromages::RechargeFromages() {
-  liste_->ComboFromages->Vide();
-  liste_->ComboFromages->Ajoute(ListeFromages(module()));
+  liste_.ComboFromages->Vide();
+  liste_.ComboFromages->Ajoute(ListeFromages(module()));
 }
 
 void frmFromages::MontreFromage(std::int32_t numero) {
-  const int indice = liste_->ComboFromages->IndiceDe(numero);
+  const int indice = liste_.ComboFromages->IndiceDe(numero);
   ChoisitOnglet(ongletListe);
-  liste_->ComboFromages->Choisit(indice);
-}
-
-Vue frmFromages::VueCourante() const {
-  constexpr int ongletTrier = 5;
-  switch (ongletCourant()) {
-    case ongletListe:
-      return liste_->VueCourante();
-    case ongletTrier:
-      return trier_->VueCourante();
-    default:
-      return {};
-  }
+  liste_.ComboFromages->Choisit(indice);
 }
 
 std::string frmFromages::Annonce() {

@@ -6,22 +6,14 @@
 namespace gastrelle {
 
 class frmFromagesListe;
-class frmFromagesAjouter;
-class frmFromagesModifier;
-class frmFromagesSupprimer;
-class frmFromagesTrier;
 
 class frmFromages final : public FenetreOnglets {
  public:
-  static constexpr int ongletListe = 1;
-
   /// Fills the list of cheeses and shows the first one.
   frmFromages(Module1& module, Cadre& cadre);
 
-  [[nodiscard]] Vue VueCourante() const override;
-
   /// The tab on which the cheese of the whole window is selected.
-  [[nodiscard]] frmFromagesListe& liste() { return *liste_; }
+  [[nodiscard]] frmFromagesListe& liste() { return liste_; }
   /// Empties the list of cheeses and fills it again. Throws on a failure.
   void RechargeFromages();
   /// Goes to the list and selects a cheese there; error 53 if the list doesn't hold it.
@@ -31,11 +23,7 @@ class frmFromages final : public FenetreOnglets {
   [[nodiscard]] std::string Annonce() override;
 
  private:
-  frmFromagesListe* liste_;
-  frmFromagesAjouter* ajouter_;
-  frmFromagesModifier* modifier_;
-  frmFromagesSupprimer* supprimer_;
-  frmFromagesTrier* trier_;
+  frmFromagesListe& liste_;
 };
 
 }  // namespace gastrelle

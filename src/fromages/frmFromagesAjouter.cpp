@@ -13,7 +13,7 @@ frmFromagesAjouter::frmFromagesAjouter(frmFromages& hote)
       Bouton(QStringLiteral("cmdValideAjouter"), QStringLiteral("&Valider"),
              QStringLiteral("valider"), QStringLiteral("Valider la saisie"), this);
   QPushButton* efface =
-      Bouton(QStringLiteral("cmdEffacerAjouter"), QStringLiteral("E&ffacer"),
+      Bouton(QStringLiteral("cmdEffacerAjouter"), QStringLiteral("Effa&cer"),
              QStringLiteral("effacer"), QStringLiteral("Effacer toutes les saisies"), this);
   boutons().addWidget(valide);
   boutons().addWidget(efface);

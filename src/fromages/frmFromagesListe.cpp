@@ -31,13 +31,13 @@ std::string frmFromagesListe::Nom() const {
   return std::string(Rogne(ComboFromages->Texte()));
 }
 
-VueFromage frmFromagesListe::VueCourante() const {
-  return {Nom(),
-          txtRegion->Texte(),
-          txtLait->Texte(),
-          txtPremierMois->Texte(),
-          txtDernierMois->Texte(),
-          txtNotes->Texte()};
+Vue frmFromagesListe::VueCourante() const {
+  return VueFromage{Nom(),
+                    txtRegion->Texte(),
+                    txtLait->Texte(),
+                    txtPremierMois->Texte(),
+                    txtDernierMois->Texte(),
+                    txtNotes->Texte()};
 }
 
 }  // namespace gastrelle

@@ -16,7 +16,7 @@ class frmFromagesListe final : public frmFromagesAffichage {
 
   /// Name of the selected cheese, trimmed; empty without one.
   [[nodiscard]] std::string Nom() const;
-  [[nodiscard]] VueFromage VueCourante() const;
+  [[nodiscard]] Vue VueCourante() const override;
   /// The entry rule of the tab: the focus to the first box that holds something.
   void Entre() override;
 

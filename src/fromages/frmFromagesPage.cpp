@@ -1,7 +1,5 @@
 #include "fromages/frmFromagesPage.h"
 
-#include <array>
-
 #include "fromages/frmFromages.h"
 
 namespace gastrelle {
@@ -26,13 +24,8 @@ void frmFromagesPage::Dispose(const ChampsFromage& champs) {
     code->setFixedWidth(lettresCode * code->fontMetrics().averageCharWidth());
   }
   contenu().setRowStretch(Rang(QStringLiteral("Notes"), champs.notes), 1);
-
-  // The keyboard follows the rows, whatever the order in which the controls were made.
-  const std::array<QWidget*, 6> ordre{champs.nom,         champs.region,      champs.lait,
-                                      champs.premierMois, champs.dernierMois, champs.notes};
-  for (std::size_t i = 1; i < ordre.size(); ++i) {
-    setTabOrder(ordre[i - 1], ordre[i]);
-  }
+  OrdonneClavier({champs.nom, champs.region, champs.lait, champs.premierMois, champs.dernierMois,
+                  champs.notes});
 }
 
 void frmFromagesPage::RangCourt(QLabel* legende, std::initializer_list<QWidget*> controles) {

@@ -54,7 +54,7 @@ void frmFromagesSupprimer::Supprime() {
     ComboListe& fromages = *hote().liste().ComboFromages;
     SupprimeFromage(module, fromages.Donnee());
     hote().RechargeFromages();
-    hote().ChoisitOnglet(frmFromages::ongletListe);
+    hote().ChoisitOnglet(FenetreOnglets::ongletListe);
     fromages.Choisit(0);
   });
 }

@@ -33,7 +33,7 @@ frmFromagesTrier::frmFromagesTrier(frmFromages& hote)
           Picture(QStringLiteral("PictureAnimal(0)"), QStringLiteral("animal-vache"), this),
           Picture(QStringLiteral("PictureAnimal(1)"), QStringLiteral("animal-chevre"), this),
           Picture(QStringLiteral("PictureAnimal(2)"), QStringLiteral("animal-brebis"), this)},
-      cmdActiver_(Bouton(QStringLiteral("cmdActiver"), QStringLiteral("A&fficher"),
+      cmdActiver_(Bouton(QStringLiteral("cmdActiver"), QStringLiteral("Affi&cher"),
                          QStringLiteral("valider"),
                          QStringLiteral("Afficher le fromage sélectionné"), this)) {
   Dispose();
@@ -105,12 +105,12 @@ void frmFromagesTrier::AfficheSelection() {
   }
   ComboListe& fromages = *hote_.liste().ComboFromages;
   if (const auto indice = fromages.modele().IndiceDe(List1_->Donnee())) {
-    hote_.ChoisitOnglet(frmFromages::ongletListe);
+    hote_.ChoisitOnglet(FenetreOnglets::ongletListe);
     fromages.Choisit(*indice);
   }
 }
 
-VueFromagesTries frmFromagesTrier::VueCourante() const {
+Vue frmFromagesTrier::VueCourante() const {
   VueFromagesTries vue;
   if (ComboLaitTrier_->currentIndex() > 0) {
     vue.lait = ComboLaitTrier_->Texte();

@@ -16,7 +16,7 @@ class frmFromagesTrier final : public PageOnglet {
  public:
   explicit frmFromagesTrier(frmFromages& hote);
 
-  [[nodiscard]] VueFromagesTries VueCourante() const;
+  [[nodiscard]] Vue VueCourante() const override;
   /// The entry rule of the tab: no milk is chosen yet.
   void Entre() override;
 

@@ -44,6 +44,8 @@ class AccesFichiers {
   virtual bool DossierExiste(const std::string& nom) = 0;
   /// True if a file is there under a whole path, anywhere on the machine (UTF-8).
   virtual bool ExisteAilleurs(const std::string& chemin) = 0;
+  /// Whole path of a name, anywhere a path is asked for (UTF-8). Touches nothing.
+  [[nodiscard]] virtual std::string CheminEntier(const std::string& nom) const = 0;
 
   /// Opens for reading and writing; a file that isn't there is created empty.
   virtual std::unique_ptr<Fichier> Ouvrir(const std::string& nom) = 0;

@@ -54,38 +54,48 @@ bool EstFichier(const std::filesystem::path& chemin) {
   return nature != 0 && nature != S_IFDIR;
 }
 
+/// Reads at a byte until the buffer is full or the file ends. Returns the number of bytes read.
+std::size_t LitOctets(const Descripteur& fichier, std::int64_t decalage, std::span<char> tampon) {
+  std::size_t lus = 0;
+  while (lus < tampon.size()) {
+    const ssize_t n = ::pread(fichier.numero(), tampon.data() + lus, tampon.size() - lus,
+                              decalage + static_cast<std::int64_t>(lus));
+    if (n == 0) {
+      break;
+    }
+    if (n > 0) {
+      lus += static_cast<std::size_t>(n);
+    } else if (errno != EINTR) {
+      Echoue();
+    }
+  }
+  return lus;
+}
+
+/// Writes all of it at a byte.
+void EcritOctets(const Descripteur& fichier, std::int64_t decalage, std::string_view octets) {
+  while (!octets.empty()) {
+    const ssize_t n = ::pwrite(fichier.numero(), octets.data(), octets.size(), decalage);
+    if (n >= 0) {
+      octets.remove_prefix(static_cast<std::size_t>(n));
+      decalage += n;
+    } else if (errno != EINTR) {
+      Echoue();
+    }
+  }
+}
+
 class FichierPosix final : public Fichier {
  public:
   explicit FichierPosix(const std::filesystem::path& chemin)
       : descripteur_(::open(chemin.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0666)) {}
 
   std::size_t Lire(std::int64_t decalage, std::span<char> tampon) override {
-    std::size_t lus = 0;
-    while (lus < tampon.size()) {
-      const ssize_t n = ::pread(descripteur_.numero(), tampon.data() + lus, tampon.size() - lus,
-                                decalage + static_cast<std::int64_t>(lus));
-      if (n == 0) {
-        break;
-      }
-      if (n > 0) {
-        lus += static_cast<std::size_t>(n);
-      } else if (errno != EINTR) {
-        Echoue();
-      }
-    }
-    return lus;
+    return LitOctets(descripteur_, decalage, tampon);
   }
 
   void Ecrire(std::int64_t decalage, std::string_view octets) override {
-    while (!octets.empty()) {
-      const ssize_t n = ::pwrite(descripteur_.numero(), octets.data(), octets.size(), decalage);
-      if (n >= 0) {
-        octets.remove_prefix(static_cast<std::size_t>(n));
-        decalage += n;
-      } else if (errno != EINTR) {
-        Echoue();
-      }
-    }
+    EcritOctets(descripteur_, decalage, octets);
   }
 
   std::int64_t Longueur() override {
@@ -98,28 +108,18 @@ class FichierPosix final : public Fichier {
   Descripteur descripteur_;
 };
 
+/// Copies a file; the copy is on the disk, not on its way there, when this returns.
 void CopieOctets(const std::filesystem::path& source, const std::filesystem::path& cible) {
   const Descripteur lecture(::open(source.c_str(), O_RDONLY | O_CLOEXEC));
   const Descripteur ecriture(::open(cible.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666));
   constexpr std::size_t tailleBloc = 1U << 18U;
   std::vector<char> bloc(tailleBloc);
-  for (;;) {
-    const ssize_t lus = ::read(lecture.numero(), bloc.data(), bloc.size());
-    if (lus == 0) {
-      return;
-    }
-    if (lus < 0) {
-      Echoue();
-    }
-    for (ssize_t ecrits = 0; ecrits < lus;) {
-      const ssize_t n =
-          ::write(ecriture.numero(), bloc.data() + ecrits, static_cast<std::size_t>(lus - ecrits));
-      if (n < 0) {
-        Echoue();
-      }
-      ecrits += n;
-    }
+  std::int64_t decalage = 0;
+  while (const std::size_t lus = LitOctets(lecture, decalage, bloc)) {
+    EcritOctets(ecriture, decalage, {bloc.data(), lus});
+    decalage += static_cast<std::int64_t>(lus);
   }
+  Exige(::fsync(ecriture.numero()));
 }
 
 }  // namespace
@@ -138,6 +138,10 @@ bool Disque::DossierExiste(const std::string& nom) {
 
 bool Disque::ExisteAilleurs(const std::string& chemin) {
   return EstFichier(chemin);
+}
+
+std::string Disque::CheminEntier(const std::string& nom) const {
+  return Chemin(nom).string();
 }
 
 std::unique_ptr<Fichier> Disque::Ouvrir(const std::string& nom) {

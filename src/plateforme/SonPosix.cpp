@@ -36,9 +36,8 @@ struct Canberra {
 }  // namespace
 
 SonSysteme::~SonSysteme() {
-  const Canberra& canberra = Canberra::Prend();
-  if (contexte_ != nullptr && canberra.detruit != nullptr) {
-    canberra.detruit(static_cast<ca_context*>(contexte_));
+  if (contexte_ != nullptr) {
+    Canberra::Prend().detruit(static_cast<ca_context*>(contexte_));
   }
 }
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 #include "data/Collation.h"
@@ -33,9 +34,10 @@ ListeComptee ToutesRecettes(Module1& module);
 /// What a recipe shows.
 struct RecetteLue {
   std::string texte;
-  bool associee = false;    ///< the record had a picture when it was read
-  std::string image;        ///< complete path of the picture, empty when there is none
-  std::string imagePerdue;  ///< path of a picture that is gone: its association has been removed
+  bool associee = false;  ///< the record had a picture when it was read
+  std::string image;      ///< complete path of the picture, empty when there is none
+  /// Path of a picture that is gone, maybe an empty one: its association has been removed.
+  std::optional<std::string> imagePerdue;
 };
 
 /// Reads a recipe into the working record, then its text and the path of its picture. A picture

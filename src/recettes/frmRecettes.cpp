@@ -17,19 +17,22 @@ namespace {
 
 constexpr std::array<DescriptionOnglet, 5> onglets{{
     {u"Liste", u"Les recettes mémorisées", u"Liste des recettes mémorisées", u"Bon appétit !",
-     "recettes-liste"},
+     "recettes-liste", CreePage<frmRecettes, frmRecettesListe>},
     {u"Ajouter", u"Ajouter une famille de recettes ou une recette",
      u"Ajout d'une famille ou d'une recette", u"Vous ajoutez une recette à la base de données",
-     "recettes-ajouter"},
+     "recettes-ajouter", CreePage<frmRecettes, frmRecettesAjouter>},
     {u"Modifier", u"Modifier le nom de la famille de recettes ou une recette",
      u"Modification d'une famille ou d'une recette",
-     u"Vous modifiez le nom de la famille ou la recette affichés", "recettes-modifier"},
+     u"Vous modifiez le nom de la famille ou la recette affichés", "recettes-modifier",
+     CreePage<frmRecettes, frmRecettesModifier>},
     {u"Supprimer", u"Supprimer la famille de recettes ou la recette",
      u"Suppression d'une famille ou d'une recette",
-     u"Vous supprimez la famille ou la recette affichés", "recettes-supprimer"},
+     u"Vous supprimez la famille ou la recette affichés", "recettes-supprimer",
+     CreePage<frmRecettes, frmRecettesSupprimer>},
     {u"Alpha", u"Toutes les recettes classées par ordre alphabétique",
      u"Classement alphabétique de toutes les recettes",
-     u"Vous triez les recettes par ordre alphabétique croissant", "recettes-alpha"},
+     u"Vous triez les recettes par ordre alphabétique croissant", "recettes-alpha",
+     CreePage<frmRecettes, frmRecettesAlpha>},
 }};
 
 // From the classification only the list and the addition can be reached: modification and deletion
@@ -46,29 +49,30 @@ constexpr DescriptionFenetre description{"frmRecettes", u"Les recettes", EntreeV
 
 frmRecettes::frmRecettes(Module1& module, Cadre& cadre)
     : FenetreOnglets(module, cadre, description),
-      liste_(new frmRecettesListe(*this)),
-      ajouter_(new frmRecettesAjouter(*this)),
-      modifier_(new frmRecettesModifier(*this)),
-      supprimer_(new frmRecettesSupprimer(*this)),
-      alpha_(new frmRecettesAlpha(*this)) {
+      liste_(static_cast<frmRecettesListe&>(Page(ongletListe))) {
   ExigeFichierOuFin(module, Donnees::GLR1);
   ChargeFamilles();
-  liste_->ComboFamilles->Choisit(0);
+  liste_.ComboFamilles->Choisit(0);
+}
+
+void frmRecettes::SuitFamilles(ComboListe& combo) {
+  if (!familles_.empty()) {
+    combo.Ajoute(familles_.front()->entrees());
+  }
+  familles_.push_back(&combo);
 }
 
 void frmRecettes::ChargeFamilles() {
   Garde(module(), [&] {
     const Liste familles = ListeFamilles(module());
-    for (ComboListe* combo : {liste_->ComboFamilles, ajouter_->ComboFamillesAjouter,
-                              modifier_->ComboFamillesModifier}) {
+    for (ComboListe* combo : familles_) {
       combo->Ajoute(familles);
     }
   });
 }
 
 void frmRecettes::RechargeFamilles() {
-  for (ComboListe* combo :
-       {liste_->ComboFamilles, ajouter_->ComboFamillesAjouter, modifier_->ComboFamillesModifier}) {
+  for (ComboListe* combo : familles_) {
     combo->Vide();
   }
   ChargeFamilles();
@@ -93,14 +97,6 @@ bool frmRecettes::AccepteImage(std::string_view chemin) {
       break;
   }
   return true;
-}
-
-Vue frmRecettes::VueCourante() const {
-  if (ongletCourant() != ongletListe) {
-    return {};
-  }
-  return VueRecette{liste_->ComboFamilles->Texte(), liste_->ComboRecettes->Texte(),
-                    liste_->txtRecette->Texte(), liste_->Image()};
 }
 
 std::string frmRecettes::Annonce() {

@@ -33,13 +33,14 @@ frmRecettesAjouter::frmRecettesAjouter(frmRecettes& hote)
       cmdValideAjouter_(Bouton(QStringLiteral("cmdValideAjouter"), QStringLiteral("&Valider"),
                                QStringLiteral("valider"), QStringLiteral("Valider les saisies"),
                                this)),
-      cmdEffacerAjouter_(Bouton(QStringLiteral("cmdEffacerAjouter"), QStringLiteral("E&ffacer"),
+      cmdEffacerAjouter_(Bouton(QStringLiteral("cmdEffacerAjouter"), QStringLiteral("Effa&cer"),
                                 QStringLiteral("effacer"),
                                 QStringLiteral("Effacer toutes les saisies"), this)),
       PictureWeb_(Bouton(QStringLiteral("PictureWeb"), {}, QStringLiteral("web"),
                          QStringLiteral("Cliquez ici pour rechercher de nouvelles recettes"),
                          this)) {
   Dispose();
+  hote_.SuitFamilles(*ComboFamillesAjouter);
   Branche();
 }
 
@@ -57,6 +58,9 @@ void frmRecettesAjouter::Dispose() {
   contenu().addWidget(Legende(QStringLiteral("L'image associée"), txtImageAjouter_), rang, 0);
   contenu().addWidget(txtImageAjouter_, rang, 1);
   contenu().addWidget(cmdImageAjouter_, rang, 2);
+  OrdonneClavier({optionFamille_, optionRecette_, txtSaisieFamille_, ComboFamillesAjouter,
+                  txtSaisieNomRecette_, txtSaisieRecetteAjouter_, txtImageAjouter_,
+                  cmdImageAjouter_, PictureWeb_, cmdValideAjouter_});
   boutons().insertWidget(0, PictureWeb_);
   boutons().addWidget(cmdValideAjouter_);
   boutons().addWidget(cmdEffacerAjouter_);
@@ -157,7 +161,7 @@ void frmRecettesAjouter::ValideFamille() {
     ComboListe& familles = *hote_.liste().ComboFamilles;
     const int indice = familles.IndiceDe(numero);
     txtSaisieFamille_->PoseTexte({});
-    hote_.ChoisitOnglet(frmRecettes::ongletListe);
+    hote_.ChoisitOnglet(FenetreOnglets::ongletListe);
     familles.Choisit(indice);
   });
 }
@@ -197,7 +201,7 @@ void frmRecettesAjouter::EnregistreRecette() {
     txtSaisieNomRecette_->PoseTexte({});
     txtSaisieRecetteAjouter_->PoseTexte({});
     txtImageAjouter_->PoseTexte({});
-    hote_.ChoisitOnglet(frmRecettes::ongletListe);
+    hote_.ChoisitOnglet(FenetreOnglets::ongletListe);
     hote_.liste().ComboFamilles->Choisit(famille);
     hote_.liste().ComboRecettes->ChoisitDonnee(numero);
   });

@@ -15,7 +15,7 @@ frmRecettesAlpha::frmRecettesAlpha(frmRecettes& hote)
       hote_(hote),
       lstRecettesTri_(new ListeChoix(QStringLiteral("lstRecettesTri"), Ordre::alphabetique, this)),
       lblNbreRecette_(new QLabel(this)),
-      cmdValideTri_(Bouton(QStringLiteral("cmdValideTri"), QStringLiteral("A&fficher"),
+      cmdValideTri_(Bouton(QStringLiteral("cmdValideTri"), QStringLiteral("Affi&cher"),
                            QStringLiteral("valider"),
                            QStringLiteral("Afficher la recette sélectionnée"), this)) {
   lstRecettesTri_->setToolTip(QStringLiteral("Double clic pour afficher la recette"));
@@ -58,7 +58,7 @@ void frmRecettesAlpha::AfficheSelection() {
   const std::int32_t choisie = lstRecettesTri_->Donnee();
   const bool dejaAffichee = affichees.currentIndex() >= 0 && affichees.Donnee() == choisie;
   if (dejaAffichee) {
-    hote_.ChoisitOnglet(frmRecettes::ongletListe);
+    hote_.ChoisitOnglet(FenetreOnglets::ongletListe);
   } else {
     VaALaRecette(choisie);
   }
@@ -78,7 +78,7 @@ void frmRecettesAlpha::VaALaRecette(std::int32_t numero) {
     liste.ComboRecettes->ChoisitDonnee(numero);
     module.bufRecette.courant() = recette;
   });
-  hote_.ChoisitOnglet(frmRecettes::ongletListe);
+  hote_.ChoisitOnglet(FenetreOnglets::ongletListe);
 }
 
 }  // namespace gastrelle

@@ -19,6 +19,7 @@ frmRecettesListe::frmRecettesListe(frmRecettes& hote)
           QStringLiteral("Cliquez sur ce bouton pour voir l'image associée à la recette"), this)),
       hote_(hote) {
   Dispose();
+  hote_.SuitFamilles(*ComboFamilles);
   PoseImage({});
   ComboFamilles->surChoix = [this] { ChoisitFamille(); };
   ComboRecettes->surChoix = [this] { AfficheRecette(); };
@@ -82,10 +83,10 @@ void frmRecettesListe::AfficheRecette() {
     const RecetteLue lue = LitRecette(module, ComboRecettes->Donnee());
     txtRecette->PoseTexte(lue.texte);
     PoseImage(lue.image);
-    if (lue.imagePerdue.empty()) {
-      hote_.cadre().PermetImage(lue.associee);
+    if (lue.imagePerdue) {
+      AnnonceImagePerdue(*lue.imagePerdue);
     } else {
-      AnnonceImagePerdue(lue.imagePerdue);
+      hote_.cadre().PermetImage(lue.associee);
     }
   });
   FinOperation(module);
@@ -99,6 +100,10 @@ void frmRecettesListe::PoseImage(const std::string& chemin) {
 
 std::string frmRecettesListe::Image() const {
   return DepuisQt(lblLaRecette->property("Tag").toString());
+}
+
+Vue frmRecettesListe::VueCourante() const {
+  return VueRecette{ComboFamilles->Texte(), ComboRecettes->Texte(), txtRecette->Texte(), Image()};
 }
 
 void frmRecettesListe::AnnonceImagePerdue(const std::string& chemin) {

@@ -23,6 +23,7 @@ class frmRecettesListe final : public PageOnglet {
   void ChoisitFamille();
   /// Complete path of the picture of the recipe on display, Windows-1252; empty without one.
   [[nodiscard]] std::string Image() const;
+  [[nodiscard]] Vue VueCourante() const override;
   /// The entry rule of the tab.
   void Entre() override;
 

@@ -35,6 +35,7 @@ frmRecettesModifier::frmRecettesModifier(frmRecettes& hote)
                                  QStringLiteral("Ré&initialiser"), QStringLiteral("reinitialiser"),
                                  QStringLiteral("Réinitialiser"), this)) {
   Dispose();
+  hote_.SuitFamilles(*ComboFamillesModifier);
   Branche();
 }
 
@@ -50,6 +51,9 @@ void frmRecettesModifier::Dispose() {
   contenu().addWidget(Legende(QStringLiteral("L'image associée"), txtImageModifier_), rang, 0);
   contenu().addWidget(txtImageModifier_, rang, 1);
   contenu().addWidget(cmdImageModifier_, rang, 2);
+  OrdonneClavier({optionFamille_, optionRecette_, txtSaisieFamilleModifier_, ComboFamillesModifier,
+                  txtSaisieNomRecetteModifier_, txtSaisieRecetteModifier_, txtImageModifier_,
+                  cmdImageModifier_, cmdValideModifier_});
   boutons().addWidget(cmdValideModifier_);
   boutons().addWidget(cmdEffacerModifier_);
   boutons().addWidget(BoutonAide(QStringLiteral("cmdAideModifier"), this));
@@ -75,7 +79,9 @@ void frmRecettesModifier::ReprendRecette() {
   const frmRecettesListe& liste = hote_.liste();
   txtSaisieNomRecetteModifier_->PoseTexte(Rogne(liste.ComboRecettes->Texte()));
   txtSaisieRecetteModifier_->PoseTexte(liste.txtRecette->Texte());
-  txtImageModifier_->PoseTexte(liste.Image());
+  // In an empty family the tag is still that of the picture shown before.
+  txtImageModifier_->PoseTexte(liste.ComboRecettes->entrees().empty() ? std::string()
+                                                                      : liste.Image());
 }
 
 void frmRecettesModifier::PermetRecette(bool permise) {
@@ -90,14 +96,8 @@ void frmRecettesModifier::Entre() {
   const frmRecettesListe& liste = hote_.liste();
   ReprendFamille();
   ComboFamillesModifier->Montre(liste.ComboFamilles->currentIndex());
+  ReprendRecette();
   const bool vide = liste.ComboRecettes->entrees().empty();
-  if (vide) {
-    txtSaisieNomRecetteModifier_->PoseTexte({});
-    txtSaisieRecetteModifier_->PoseTexte({});
-    txtImageModifier_->PoseTexte({});
-  } else {
-    ReprendRecette();
-  }
   optionRecette_->setEnabled(!vide);
   (vide ? optionFamille_ : optionRecette_)->setChecked(true);
   PermetRecette(!vide);
@@ -122,9 +122,7 @@ void frmRecettesModifier::ChoisitOptionRecette() {
 void frmRecettesModifier::Reinitialise() {
   ReprendFamille();
   ComboFamillesModifier->Montre(hote_.liste().ComboFamilles->currentIndex());
-  if (!hote_.liste().ComboRecettes->entrees().empty()) {
-    ReprendRecette();
-  }
+  ReprendRecette();
   DonneFocus(optionFamille_->isChecked() ? static_cast<QWidget*>(txtSaisieFamilleModifier_)
                                          : ComboFamillesModifier);
 }
@@ -151,7 +149,7 @@ void frmRecettesModifier::ValideFamille() {
   // A name that differs in case only counts as unchanged.
   if (Majuscules(nom) == Majuscules(familles.Texte())) {
     module.services.pointeur.Normal();
-    hote_.ChoisitOnglet(frmRecettes::ongletListe);
+    hote_.ChoisitOnglet(FenetreOnglets::ongletListe);
     DonneFocus(&familles);
     return;
   }
@@ -173,7 +171,7 @@ void frmRecettesModifier::EnregistreFamille(const std::string& nom) {
     hote_.RechargeFamilles();
     liste.ComboFamilles->ChoisitDonnee(famille);
     liste.ComboRecettes->ChoisitDonnee(recette);
-    hote_.ChoisitOnglet(frmRecettes::ongletListe);
+    hote_.ChoisitOnglet(FenetreOnglets::ongletListe);
     DonneFocus(liste.ComboFamilles);
   });
 }
@@ -248,7 +246,7 @@ void frmRecettesModifier::EnregistreRecette() {
     ChangeRecette(module, numero, {ComboFamillesModifier->Donnee(), titre, texte, image});
     liste.ComboFamilles->Choisit(ComboFamillesModifier->currentIndex());
     liste.ComboRecettes->ChoisitDonnee(numero);
-    hote_.ChoisitOnglet(frmRecettes::ongletListe);
+    hote_.ChoisitOnglet(FenetreOnglets::ongletListe);
     DonneFocus(liste.ComboFamilles);
   });
 }

@@ -121,7 +121,7 @@ void frmRecettesSupprimer::SupprimeFamilleAffichee() {
   ExigeFichier(module, Donnees::GLR2);
   SupprimeFamille(module, liste.ComboFamilles->Donnee(), liste.ComboRecettes->entrees());
   hote_.RechargeFamilles();
-  hote_.ChoisitOnglet(frmRecettes::ongletListe);
+  hote_.ChoisitOnglet(FenetreOnglets::ongletListe);
   liste.ComboFamilles->Choisit(0);
 }
 
@@ -130,7 +130,7 @@ void frmRecettesSupprimer::SupprimeRecetteAffichee() {
   frmRecettesListe& liste = hote_.liste();
   ExigeFichier(module, Donnees::GLR2);
   SupprimeRecette(module, liste.ComboRecettes->Donnee());
-  hote_.ChoisitOnglet(frmRecettes::ongletListe);
+  hote_.ChoisitOnglet(FenetreOnglets::ongletListe);
   liste.ChoisitFamille();
 }
 

@@ -6,6 +6,7 @@
 
 #include "controles/Conversion.h"
 #include "controles/Touches.h"
+#include "data/ProceduresFichiers.h"
 #include "plateforme/ErreurExecution.h"
 #include "shell/FichierAide.h"
 #include "shell/frmAide.h"
@@ -48,7 +49,8 @@ bool Aide::Prepare() {
     module_.services.messages.Informe(texte, Icone::aucune);
   };
   try {
-    fichier_ = FichierAide::Ouvre(VersQt(module_.fichierAide));
+    fichier_ =
+        FichierAide::Ouvre(QString::fromStdString(CheminSysteme(module_, module_.fichierAide)));
   } catch (const ErreurExecution& erreur) {
     dit(erreur.what());
     return false;

@@ -9,15 +9,18 @@
 
 namespace gastrelle {
 
-void FinSurErreur(const ErreurExecution& erreur, Messages& messages, Processus& processus) {
+void FinSurErreur(const ErreurExecution& erreur, Messages& messages, Pointeur& pointeur,
+                  Processus& processus) {
+  pointeur.Normal();
   messages.Informe(erreur.Rapport(), Icone::critique);
   processus.Termine(1);
 }
 
-Application::Application(int& argc, char** argv, Messages& messages, Processus& processus)
-    : QApplication(argc, argv), messages_(messages), processus_(processus) {
+Application::Application(int& argc, char** argv, Messages& messages, Pointeur& pointeur,
+                         Processus& processus)
+    : QApplication(argc, argv), messages_(messages), pointeur_(pointeur), processus_(processus) {
+  // No display name: the toolkit would put it behind every caption that doesn't end with it.
   setApplicationName(VersQt(titreApplication));
-  setApplicationDisplayName(VersQt(titreApplication));
   setDesktopFileName(QStringLiteral("gastrelle"));
   // The end of the program has steps of its own once its last window is gone.
   setQuitOnLastWindowClosed(false);
@@ -35,7 +38,7 @@ bool Application::notify(QObject* destinataire, QEvent* evenement) {
   try {
     return QApplication::notify(destinataire, evenement);
   } catch (const ErreurExecution& erreur) {
-    FinSurErreur(erreur, messages_, processus_);
+    FinSurErreur(erreur, messages_, pointeur_, processus_);
   }
 }
 

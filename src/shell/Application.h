@@ -12,17 +12,18 @@ namespace gastrelle {
 
 /// Shows "Erreur d'exécution 'N' : " and the text, then ends the process with status 1.
 [[noreturn]] void FinSurErreur(const ErreurExecution& erreur, Messages& messages,
-                               Processus& processus);
+                               Pointeur& pointeur, Processus& processus);
 
 class Application : public QApplication {
  public:
-  Application(int& argc, char** argv, Messages& messages, Processus& processus);
+  Application(int& argc, char** argv, Messages& messages, Pointeur& pointeur, Processus& processus);
 
   /// A failure that no operation guards ends the program with its report.
   bool notify(QObject* destinataire, QEvent* evenement) override;
 
  private:
   Messages& messages_;
+  Pointeur& pointeur_;
   Processus& processus_;
 };
 

@@ -9,6 +9,7 @@
 #include "controles/Conversion.h"
 #include "controles/Icones.h"
 #include "controles/Touches.h"
+#include "data/ProceduresFichiers.h"
 #include "shell/ImageAssociee.h"
 
 namespace gastrelle {
@@ -81,7 +82,9 @@ bool frmImage::TropGrande(const QSize& image) const {
 }
 
 void frmImage::Charge() {
-  QImageReader lecteur(VersQt(chemin_));
+  // A file, not a name: the reader would also try a name with other endings behind it.
+  QFile fichier(QString::fromStdString(CheminSysteme(module_, chemin_)));
+  QImageReader lecteur(&fichier);
   lecteur.setDecideFormatFromContent(true);
   lecteur.setAutoTransform(true);
   const bool couchee = lecteur.transformation().testFlag(QImageIOHandler::TransformationRotate90);

@@ -9,6 +9,7 @@
 #include "controles/Adresses.h"
 #include "controles/Conversion.h"
 #include "controles/Icones.h"
+#include "controles/Touches.h"
 #include "data/Courses.h"
 #include "data/ProceduresFichiers.h"
 #include "fiches/frmMenus.h"
@@ -71,6 +72,9 @@ frmMain::frmMain(Module1& module, Clavier& clavier)
   setWindowTitle(VersQt(titreApplication));
   setWindowIcon(IconeDe(QStringLiteral("gastrelle")));
   setCentralWidget(enfants_);
+  setProperty(proprieteSujet, QStringLiteral("cadre"));
+  // The bars come and go through their entries, whose check marks tell what is shown.
+  setContextMenuPolicy(Qt::NoContextMenu);
   setStatusBar(statut_);
   enfants_->setObjectName(QStringLiteral("MDIClient"));
   Place(*this, LitGeometrie());

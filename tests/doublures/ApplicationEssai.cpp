@@ -17,7 +17,7 @@ MessagesEssai* ecoute = nullptr;
 }  // namespace
 
 ApplicationEssai::ApplicationEssai(int& argc, char** argv)
-    : Application(argc, argv, messages_, processus_) {
+    : Application(argc, argv, messages_, pointeur_, processus_) {
   // An open list ignores the mouse for as long as a double click may take.
   constexpr int millisecondes = 10;
   setDoubleClickInterval(millisecondes);

@@ -15,10 +15,11 @@ class ApplicationEssai final : public Application {
 
  private:
   MessagesEssai messages_;
+  PointeurEssai pointeur_;
   ProcessusEssai processus_;
 };
 
-/// Where the reports of unguarded failures go from now on.
+/// Where the reports of unguarded failures go from now on; null: nowhere.
 void EcouteMessages(MessagesEssai* messages);
 
 }  // namespace gastrelle::essai

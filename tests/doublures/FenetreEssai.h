@@ -21,6 +21,8 @@ namespace gastrelle::essai {
 template <class Fenetre>
 class FenetreEssai : public testing::Test {
  protected:
+  ~FenetreEssai() override { EcouteMessages(nullptr); }
+
   void Ouvre(int onglet = 1) {
     b.Demarre();
     OublieFin();
@@ -33,6 +35,17 @@ class FenetreEssai : public testing::Test {
     if (onglet != 1) {
       CliqueOnglet(*fenetre, onglet);
     }
+    b.disque.OublieJournal();
+  }
+
+  /// Opens the window and goes once through its tabs, back to the first: each has made its page.
+  void OuvreEtParcourt() {
+    Ouvre();
+    const int dernier = Le<QTabBar>("TabStrip1").count();
+    for (int parcouru = 2; parcouru <= dernier; ++parcouru) {
+      CliqueOnglet(*fenetre, parcouru);
+    }
+    CliqueOnglet(*fenetre, 1);
     b.disque.OublieJournal();
   }
 

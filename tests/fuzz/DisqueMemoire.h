@@ -29,6 +29,9 @@ class DisqueMemoire final : public AccesFichiers {
   bool Existe(const std::string& nom) override;
   bool DossierExiste(const std::string& nom) override;
   bool ExisteAilleurs(const std::string& chemin) override;
+  [[nodiscard]] std::string CheminEntier(const std::string& nom) const override {
+    return "/memoire/" + nom;
+  }
   std::unique_ptr<Fichier> Ouvrir(const std::string& nom) override;
   void Copier(const std::string& source, const std::string& cible) override;
   void Supprimer(const std::string& nom) override;

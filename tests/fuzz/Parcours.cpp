@@ -95,7 +95,7 @@ class Vie {
         const RecetteLue lue = LitRecette(module_, recette.donnee);
         Verifie(lue.texte.size() <= static_cast<std::size_t>(limiteTexteRecette),
                 "un texte plus long que sa limite");
-        Verifie(lue.image.empty() || lue.imagePerdue.empty(), "une image trouvée et perdue");
+        Verifie(lue.image.empty() || !lue.imagePerdue, "une image trouvée et perdue");
         bilan_.textes.push_back(lue.texte);
         if (!lue.image.empty()) {
           bilan_.images.push_back(lue.image);

@@ -190,7 +190,7 @@ TEST_F(Fabrique, MontreUneImageAChaqueRecette) {
   for (const auto& entree : ToutesRecettes(*m).liste) {
     const RecetteLue recette = LitRecette(*m, entree.donnee);
     EXPECT_TRUE(recette.associee) << VersUtf8(entree.texte);
-    EXPECT_EQ(recette.imagePerdue, "");
+    EXPECT_EQ(recette.imagePerdue, std::nullopt);
     std::ifstream image(VersUtf8(recette.image), std::ios::binary);
     std::string debut(3, ' ');
     image.read(debut.data(), 3);

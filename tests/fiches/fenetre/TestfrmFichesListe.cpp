@@ -71,7 +71,7 @@ TEST_P(FichesListe, UnChoixDonneLeFocusAuTexteEtRendLePointeur) {
 }
 
 TEST_P(FichesListe, LeNombreSeLitSurLesQuatreOnglets) {
-  Ouvre();
+  OuvreEtParcourt();
   for (const char* nom : {"txtAnnonce(0)", "txtAnnonce(1)", "txtAnnonce(2)", "txtAnnonce(3)"}) {
     EXPECT_EQ(Texte(Le(nom)), QString::number(c.dernierProtege - 1) + cas.annonce) << nom;
   }

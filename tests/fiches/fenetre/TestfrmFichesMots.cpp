@@ -69,7 +69,7 @@ class MotsMenus : public Mots<frmMenus> {};
 class MotsTrucs : public Mots<frmTrucs> {};
 
 TEST_F(MotsMenus, Onglets) {
-  Ouvre();
+  OuvreEtParcourt();
   AttendPages("Les menus",
               {{{"Liste", "Les recettes mémorisées", "Liste des menus mémorisés",
                  "Faites votre choix !", "menus-liste"},
@@ -82,7 +82,7 @@ TEST_F(MotsMenus, Onglets) {
 }
 
 TEST_F(MotsMenus, Controles) {
-  Ouvre();
+  OuvreEtParcourt();
   AttendControles({{"ComboMenus", "Les menus",
                     "Choisir dans la liste un menu pour en afficher ci-dessous son détail"},
                    {"txtMenu", "Le menu", ""},
@@ -90,12 +90,12 @@ TEST_F(MotsMenus, Controles) {
                    {"txtSaisieMenuAjouter", "Le menu", "Entrez le texte du nouveau menu"},
                    {"txtSaisieNomMenuModifier", "Le titre du menu", "Entrez la modification"},
                    {"txtSaisieMenuModifier", "Le menu", "Entrez vos éventuelles modifications"},
-                   {"txtSaisieNomSupprimer", "Le titre du menu", ""},
-                   {"txtSaisieMenuSupprimer", "Le menu", ""}});
+                   {"txtSaisieNomSupprimer", "Le titre du menu", casMenus.protegee},
+                   {"txtSaisieMenuSupprimer", "Le menu", casMenus.protegee}});
 }
 
 TEST_F(MotsMenus, Boutons) {
-  Ouvre();
+  OuvreEtParcourt();
   AttendInfobulles({{"cmdValideAjouter", "Valider les saisies"},
                     {"cmdEffacerAjouter", "Effacer toutes les saisies"},
                     {"cmdValideModifier", "Valider les saisies"},
@@ -108,7 +108,7 @@ TEST_F(MotsMenus, Boutons) {
 }
 
 TEST_F(MotsTrucs, Onglets) {
-  Ouvre();
+  OuvreEtParcourt();
   AttendPages(
       "Les termes, trucs et astuces",
       {{{"Liste", "Les termes, truc et astuces mémorisés", "Liste des termes, trucs et astuces",
@@ -125,7 +125,7 @@ TEST_F(MotsTrucs, Onglets) {
 }
 
 TEST_F(MotsTrucs, Controles) {
-  Ouvre();
+  OuvreEtParcourt();
   AttendControles(
       {{"ComboTrucs", "Les termes, trucs et astuces",
         "Choisir dans la liste un terme, truc ou astuce pour en afficher ci-dessous "
@@ -136,12 +136,12 @@ TEST_F(MotsTrucs, Controles) {
        {"txtSaisieTrucAjouter", "Le texte", "Entrez le texte du nouveau terme, truc ou astuce"},
        {"txtSaisieNomTrucModifier", "Le titre du terme, truc ou astuce", "Entrez la modification"},
        {"txtSaisieTrucModifier", "Le texte", "Entrez vos éventuelles modifications"},
-       {"txtSaisieNomSupprimer", "Le titre du terme, truc ou astuce", ""},
-       {"txtSaisieTrucSupprimer", "Le texte", ""}});
+       {"txtSaisieNomSupprimer", "Le titre du terme, truc ou astuce", casTrucs.protegee},
+       {"txtSaisieTrucSupprimer", "Le texte", casTrucs.protegee}});
 }
 
 TEST_F(MotsTrucs, Boutons) {
-  Ouvre();
+  OuvreEtParcourt();
   AttendInfobulles({{"cmdValideAjouter", "Valider les saisies"},
                     {"cmdEffacerAjouter", "Effacer toutes les saisies"},
                     {"cmdValideModifier", "Valider les saisies"},

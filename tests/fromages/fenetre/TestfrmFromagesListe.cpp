@@ -74,7 +74,7 @@ TEST_F(ListeDesFromages, LesBoitesSeLisentMaisNeSeTapentPas) {
 }
 
 TEST_F(ListeDesFromages, LeNombreDeFromagesSeLitSurChaqueOngletToujoursAuPluriel) {
-  Ouvre();
+  OuvreEtParcourt();
   for (const char* nom :
        {"txtAnnonce(0)", "txtAnnonce(1)", "txtAnnonce(2)", "txtAnnonce(3)", "txtAnnonce(4)"}) {
     EXPECT_EQ(TexteDe(nom), "122\nfromages") << nom;
@@ -163,7 +163,7 @@ TEST_F(ListeDesFromages, LesOngletsDeSaisieNAffichentRien) {
 }
 
 TEST_F(ListeDesFromages, ChaqueOngletASesTextes) {
-  Ouvre();
+  OuvreEtParcourt();
   const auto& onglets = Le<QTabBar>("TabStrip1");
   QStringList titres;
   QStringList infobulles;

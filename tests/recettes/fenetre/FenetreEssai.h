@@ -27,6 +27,7 @@ class FenetreRecettes : public FenetreEssai<frmRecettes> {
       Bibliotheque autre;
       autre.Demarre();
       OublieFin();
+      EcouteMessages(&autre.messages);
       CadreEssai unCadre(*autre.module);
       frmRecettes uneFenetre(*autre.module, unCadre);
       uneFenetre.show();
@@ -37,6 +38,7 @@ class FenetreRecettes : public FenetreEssai<frmRecettes> {
       EXPECT_EQ(FinVue(), 1);
       EXPECT_THAT(autre.messages.vus, testing::SizeIs(1));
       verifie(autre, n);
+      EcouteMessages(nullptr);
     }
   }
 

@@ -58,7 +58,9 @@ TEST_F(Ajouter, LOptionRecetteVideEtDesactiveLaFamille) {
 }
 
 TEST_F(Ajouter, UneFamilleEntreDansLesTroisListesEtSAffiche) {
-  OuvreFamille();
+  OuvreEtParcourt();
+  CliqueOnglet(*fenetre, 2);
+  Clique(Le("Option1(0)"));
   Tape(Le("txtSaisieFamille"), "  Poissons ");
   Valide();
   for (const char* nom : {"ComboFamilles", "ComboFamillesAjouter", "ComboFamillesModifier"}) {

@@ -95,6 +95,8 @@ TEST_F(Supprimer, UnNonNeToucheARien) {
 
 TEST_F(Supprimer, SupprimeLaFamilleAvecSesRecettesEtMontreLaPremiere) {
   OuvreDesserts();
+  CliqueOnglet(*fenetre, 3);
+  CliqueOnglet(*fenetre, 4);
   Clique(Le("Option3(0)"));
   b.messages.reponses = {Reponse::oui};
   Clique(Le("cmdSupprimer"));
