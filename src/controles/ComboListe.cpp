@@ -2,8 +2,6 @@
 
 #include <algorithm>
 
-#include <QListView>
-
 #include "data/Texte1252.h"
 #include "plateforme/ErreurExecution.h"
 
@@ -13,9 +11,6 @@ ComboListe::ComboListe(const QString& nom, Ordre ordre, QWidget* parent)
     : QComboBox(parent), modele_(ordre) {
   constexpr int lettresAuMoins = 12;
   setObjectName(nom);
-  auto* vue = new QListView(this);
-  vue->setUniformItemSizes(true);
-  setView(vue);
   setModel(&modele_);
   setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
   setMinimumContentsLength(lettresAuMoins);
@@ -24,6 +19,15 @@ ComboListe::ComboListe(const QString& nom, Ordre ordre, QWidget* parent)
       surChoix();
     }
   });
+}
+
+void ComboListe::showPopup() {
+  if (vue_ == nullptr) {
+    vue_ = new QListView(this);
+    vue_->setUniformItemSizes(true);  // 32,767 entries open at once
+    setView(vue_);
+  }
+  QComboBox::showPopup();
 }
 
 void ComboListe::Choisit(int indice) {

@@ -4,6 +4,7 @@
 #include <functional>
 
 #include <QComboBox>
+#include <QListView>
 
 #include "controles/ModeleListe.h"
 
@@ -42,8 +43,12 @@ class ComboListe final : public QComboBox {
   /// Text of the chosen entry, Windows-1252; empty when there is none.
   [[nodiscard]] std::string Texte() const;
 
+  /// Opens the list, whose view is made the first time.
+  void showPopup() override;
+
  private:
   ModeleListe modele_;
+  QListView* vue_ = nullptr;
 };
 
 }  // namespace gastrelle

@@ -14,13 +14,12 @@ constexpr int margePage = 12;
 constexpr int tailleLogo = 48;
 constexpr int largeurAnnonce = 120;
 constexpr int lignesAnnonce = 3;
-constexpr double agrandissement = 1.35;
+constexpr double agrandissement = 1.5;
 
 QLabel* Entete(const QString& texte, QWidget* parent) {
   auto* etiquette = new QLabel(texte, parent);
   QFont police = etiquette->font();
   police.setPointSizeF(police.pointSizeF() * agrandissement);
-  police.setBold(true);
   etiquette->setFont(police);
   etiquette->setObjectName(QStringLiteral("Label1"));
   return etiquette;

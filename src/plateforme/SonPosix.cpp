@@ -1,36 +1,28 @@
 #include <canberra.h>
-#include <dlfcn.h>
 
+#include "plateforme/BibliothequePosix.h"
 #include "plateforme/Son.h"
 
 namespace gastrelle {
 namespace {
 
-/// The sound library, taken at the first sound: the program starts without it and its own
-/// libraries, and runs where it isn't installed.
 struct Canberra {
-  decltype(&ca_context_create) cree = nullptr;
-  decltype(&ca_context_destroy) detruit = nullptr;
-  decltype(&ca_context_play) joue = nullptr;
+  Canberra() {
+    bibliotheque.Prend(cree, "ca_context_create");
+    bibliotheque.Prend(detruit, "ca_context_destroy");
+    bibliotheque.Prend(joue, "ca_context_play");
+  }
 
+  /// Opened at the first sound.
   static const Canberra& Prend() {
-    static const Canberra prise = [] {
-      Canberra canberra;
-      if (void* bibliotheque = ::dlopen("libcanberra.so.0", RTLD_NOW | RTLD_LOCAL)) {
-        canberra.cree =
-            reinterpret_cast<decltype(cree)>(::dlsym(bibliotheque, "ca_context_create"));
-        canberra.detruit =
-            reinterpret_cast<decltype(detruit)>(::dlsym(bibliotheque, "ca_context_destroy"));
-        canberra.joue = reinterpret_cast<decltype(joue)>(::dlsym(bibliotheque, "ca_context_play"));
-      }
-      return canberra;
-    }();
+    static const Canberra prise;
     return prise;
   }
 
-  [[nodiscard]] bool prete() const {
-    return cree != nullptr && detruit != nullptr && joue != nullptr;
-  }
+  BibliothequeSysteme bibliotheque{"libcanberra.so.0"};
+  decltype(&ca_context_create) cree = nullptr;
+  decltype(&ca_context_destroy) detruit = nullptr;
+  decltype(&ca_context_play) joue = nullptr;
 };
 
 }  // namespace
@@ -43,7 +35,7 @@ SonSysteme::~SonSysteme() {
 
 void SonSysteme::Joue(const std::filesystem::path& fichier) {
   const Canberra& canberra = Canberra::Prend();
-  if (!canberra.prete()) {
+  if (!canberra.bibliotheque.presente()) {
     return;
   }
   if (contexte_ == nullptr) {
