@@ -11,6 +11,8 @@ class StyleGastrelle final : public QProxyStyle {
 
   [[nodiscard]] int styleHint(StyleHint indice, const QStyleOption* option, const QWidget* controle,
                               QStyleHintReturn* retour) const override;
+  void drawControl(ControlElement element, const QStyleOption* option, QPainter* peintre,
+                   const QWidget* controle) const override;
 };
 
 }  // namespace gastrelle
