@@ -22,7 +22,7 @@ void CatalogueFiches::ExigeFichiers(bool avecTexte) {
 
 Liste CatalogueFiches::ListeTitres() {
   ExigeFichiers(false);
-  return ListeReparee(tampon(), tampon().courant(), [](const RecFiche&) { return true; });
+  return ListeReparee(tampon(), tampon().courant());
 }
 
 std::string CatalogueFiches::LitTexte(std::int32_t numero) {
