@@ -59,8 +59,26 @@ class CadreVrai : public testing::Test {
     Entree(nom).trigger();
     QApplication::processEvents();
   }
+  /// What the frame allows, "+" or "-" for printing, cutting, copying, pasting, selecting all,
+  /// searching, the entry that sends, the buttons that send, the picture. A "?" is an entry and a
+  /// button that differ.
+  std::string Motif() {
+    const auto etat = [&](const char* entree, const char* cle) {
+      const bool permis = entree != nullptr ? Permis(entree) : BoutonBarre(cle).isEnabled();
+      const bool autre = cle != nullptr ? BoutonBarre(cle).isEnabled() : permis;
+      return permis != autre ? '?' : permis ? '+' : '-';
+    };
+    const char ttx = etat(nullptr, "Ttx");
+    return {etat("mnuFilePrint", "Print"),   etat("mnuEditCut", "Couper"),
+            etat("mnuEditCopy", "Copier"),   etat("mnuEditPaste", "Coller"),
+            etat("mnuEditSelect", nullptr),  etat("mnuEditRechercher", "Find"),
+            etat("mnuEditEnvoyer", nullptr), ttx == etat(nullptr, "Notepad") ? ttx : '?',
+            etat("mnuViewImage", nullptr)};
+  }
+  /// The frame around a child window.
+  QMdiSubWindow& Sous(const char* nom) { return *static_cast<QMdiSubWindow*>(Le(nom).parent()); }
   QMdiArea& enfants() { return Le<QMdiArea>("MDIClient"); }
-  QMdiSubWindow& recettes() { return *static_cast<QMdiSubWindow*>(Le("frmRecettes").parent()); }
+  QMdiSubWindow& recettes() { return Sous("frmRecettes"); }
 
   Bibliotheque b;
   ClavierEssai clavier;

@@ -70,6 +70,9 @@ void DisqueEssai::Guerit() {
 
 void DisqueEssai::Note(const std::string& ligne, const std::function<void()>& moitie) {
   journal_.push_back(ligne);
+  if (pendant) {
+    pendant(ligne);
+  }
   if (!defaut_ || !ligne.starts_with(defaut_->debut)) {
     return;
   }

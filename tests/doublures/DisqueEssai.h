@@ -38,6 +38,9 @@ class DisqueEssai final : public AccesFichiers {
   /// No more failures.
   void Guerit();
 
+  /// Runs at every call, with its line of the journal, before anything is done.
+  std::function<void(const std::string& ligne)> pendant;
+
   bool Existe(const std::string& nom) override;
   bool DossierExiste(const std::string& nom) override;
   bool ExisteAilleurs(const std::string& chemin) override;

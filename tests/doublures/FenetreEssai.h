@@ -7,6 +7,7 @@
 #include <string>
 #include <type_traits>
 
+#include <QTest>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -14,6 +15,7 @@
 #include "doublures/ApplicationEssai.h"
 #include "doublures/Bibliotheque.h"
 #include "doublures/CadreEssai.h"
+#include "doublures/EcouteF1.h"
 #include "doublures/Ecran.h"
 
 namespace gastrelle::essai {
@@ -77,6 +79,41 @@ class FenetreEssai : public testing::Test {
     EXPECT_EQ(std::count_if(b.messages.vus.begin(), b.messages.vus.end(),
                             [&](const MessageVu& m) { return m.texte == fatal; }),
               1);
+  }
+
+  /// Runs an operation: the hourglass stands at its first call of the disk (or the first one whose
+  /// line of the journal begins so) and is gone once all is over.
+  template <class Operation>
+  void AttendSablier(Operation operation, const std::string& debut = {}) {
+    std::optional<bool> sablier;
+    b.pointeur.Normal();
+    b.disque.pendant = [&](const std::string& ligne) {
+      if (!sablier && ligne.starts_with(debut)) {
+        sablier = b.pointeur.sablier;
+      }
+    };
+    operation();
+    b.disque.pendant = nullptr;
+    EXPECT_THAT(sablier, testing::Optional(true));
+    EXPECT_FALSE(b.pointeur.sablier);
+  }
+  /// From now on every message has to find the pointer normal.
+  void ExigePointeurNormalAuxMessages() {
+    b.messages.pendant = [this] {
+      EXPECT_FALSE(b.pointeur.sablier) << VersUtf8(b.messages.vus.back().texte);
+    };
+  }
+  /// The help button of each tab, in the order of the tabs, sends the help key.
+  void AttendF1(std::initializer_list<const char*> boutons) {
+    fenetre->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(fenetre.get()));
+    const EcouteF1 ecoute;
+    int parcouru = 0;
+    for (const char* bouton : boutons) {
+      CliqueOnglet(*fenetre, ++parcouru);
+      Clique(Le(bouton));
+      EXPECT_EQ(ecoute.appuis, parcouru) << bouton;
+    }
   }
 
   Bibliotheque b;

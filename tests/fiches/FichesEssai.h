@@ -8,6 +8,7 @@
 
 #include "data/Texte1252.h"
 #include "doublures/Bibliotheque.h"
+#include "doublures/Entetes.h"
 #include "fiches/CatalogueFiches.h"
 
 namespace gastrelle::essai {
@@ -54,17 +55,11 @@ inline std::string EcritTexte(const CatalogueEssai& c, int decalage, int longueu
   return "écrit " + Nom(c.textes) + " " + std::to_string(decalage) + "+" + std::to_string(longueur);
 }
 
-/// Clears a record's live flag and sets the header's count, on file.
+/// Clears a record's live flag, on file.
 inline void SupprimeSurFichier(const Bibliotheque& b, Donnees fiches, std::int32_t numero) {
   std::string octets = b.dossier.Lit(NomFabrique(fiches));
   octets.replace(static_cast<std::size_t>(numero - 1) * 138, 2, 2, '\0');
   b.dossier.Ecrit(NomFabrique(fiches), octets);
-}
-inline void PoseCompte(const Bibliotheque& b, const std::string& nom, std::int16_t compte) {
-  std::string octets = b.dossier.Lit(nom);
-  octets[0] = static_cast<char>(compte & 0xFF);
-  octets[1] = static_cast<char>(compte >> 8);
-  b.dossier.Ecrit(nom, octets);
 }
 
 }  // namespace gastrelle::essai

@@ -6,6 +6,7 @@
 
 #include "data/Texte1252.h"
 #include "doublures/Bibliotheque.h"
+#include "doublures/Entetes.h"
 #include "fromages/CatalogueFromages.h"
 
 namespace gastrelle::essai {
@@ -29,14 +30,6 @@ inline RecFromage FicheFromage(const Bibliotheque& b, std::size_t numero) {
 /// The name on file, trimmed.
 inline std::string NomFromage(const Bibliotheque& b, std::size_t numero) {
   return std::string(Rogne(FicheFromage(b, numero).nomFromage.brut()));
-}
-
-/// Sets a count in the header, on file.
-inline void PoseCompteFromages(const Bibliotheque& b, std::string_view nom, std::int16_t compte) {
-  std::string octets = b.dossier.Lit(nom);
-  octets[0] = static_cast<char>(compte & 0xFF);
-  octets[1] = static_cast<char>(compte >> 8);
-  b.dossier.Ecrit(nom, octets);
 }
 
 }  // namespace gastrelle::essai

@@ -42,6 +42,40 @@ std::string Recette(std::int32_t famille, std::string_view titre, LigneRayon tex
   return Octets(recette);
 }
 
+std::string Fromage(std::string_view nom, std::int16_t lait, std::int16_t premierMois,
+                    std::int16_t dernierMois, LigneRayon notes = {}) {
+  RecFromage fromage;
+  fromage.actif = vivant;
+  fromage.nomFromage = nom;
+  fromage.regionFromage = "Provence";
+  fromage.lait = lait;
+  fromage.premierMois = premierMois;
+  fromage.dernierMois = dernierMois;
+  fromage.posTexte = notes.posTexte;
+  fromage.lgTexte = notes.lgTexte;
+  return Octets(fromage);
+}
+
+std::string Fiche(std::string_view titre, LigneRayon texte = {}) {
+  RecFiche fiche;
+  fiche.actif = vivant;
+  fiche.titre = titre;
+  fiche.posTexte = texte.posTexte;
+  fiche.lgTexte = texte.lgTexte;
+  return Octets(fiche);
+}
+
+/// References that lead out of their pool, or nowhere.
+constexpr std::array<LigneRayon, 9> referencesFolles{{{1, demesure},
+                                                      {demesure, demesure},
+                                                      {demesure, 1},
+                                                      {-1, 5},
+                                                      {9, -1},
+                                                      {0, demesure},
+                                                      {1, 0},
+                                                      {-demesure, -demesure},
+                                                      {16, 16}}};
+
 /// The bytes of an input, file by file. Those of a file with a header begin with its count.
 struct Dossier {
   unsigned choix = gardeEntetes;
@@ -89,19 +123,55 @@ Dossier Comptes(std::int16_t familles, std::int16_t recettes) {
 
 Dossier References() {
   Dossier d = DeuxFamilles();
-  std::string recettes = Mot(9);
-  for (const LigneRayon& texte : std::array<LigneRayon, 9>{{{1, demesure},
-                                                            {demesure, demesure},
-                                                            {demesure, 1},
-                                                            {-1, 5},
-                                                            {9, -1},
-                                                            {0, demesure},
-                                                            {1, 0},
-                                                            {-demesure, -demesure},
-                                                            {16, 16}}}) {
+  std::string recettes = Mot(referencesFolles.size());
+  for (const LigneRayon& texte : referencesFolles) {
     recettes += Recette(2, "Soupe", texte, texte);
   }
   d.fichiers[Donnees::GLR2] = recettes;
+  return d;
+}
+
+/// Three cheeses, two menus and a tip, one of each with a text; a deleted cheese between them.
+Dossier AutresCatalogues() {
+  Dossier d;
+  RecFromage parti;
+  parti.nomFromage = "Parti";
+  d.fichiers[Donnees::GLF1] = Mot(122) + Fromage("Banon", 2, 11, 2, {9, 11}) + Octets(parti) +
+                              Fromage("Brie", 1, 0, 0) + Fromage("Époisses"_1252, 1, 12, 12);
+  d.fichiers[Donnees::GLF2] = "En feuille.";
+  d.fichiers[Donnees::GLM1] = Mot(15) + Fiche("Noël"_1252, {9, 7}) + Fiche("Noce");
+  d.fichiers[Donnees::GLM2] = "Du vin.";
+  d.fichiers[Donnees::GLT1] = Mot(167) + Fiche("Blanchir", {9, 10});
+  d.fichiers[Donnees::GLT2] = "A l'eau. !";
+  return d;
+}
+
+/// The same references in all three.
+Dossier AutresReferences() {
+  Dossier d = AutresCatalogues();
+  std::string fromages = Mot(122);
+  std::string fiches = Mot(167);
+  for (const LigneRayon& texte : referencesFolles) {
+    fromages += Fromage("Banon", 2, 0, 0, texte);
+    fiches += Fiche("Noce", texte);
+  }
+  d.fichiers[Donnees::GLF1] = fromages;
+  d.fichiers[Donnees::GLM1] = fiches;
+  d.fichiers[Donnees::GLT1] = fiches;
+  return d;
+}
+
+/// Milks and months that no table holds, after one cheese that is right.
+Dossier CodesFaux() {
+  using Bornes = std::numeric_limits<std::int16_t>;
+  Dossier d;
+  std::string fromages = Mot(122) + Fromage("Banon", 3, 12, 12);
+  for (const std::int16_t faux :
+       {Bornes::min(), std::int16_t{-1}, std::int16_t{13}, Bornes::max()}) {
+    fromages += Fromage("Lait", faux, 1, 1) + Fromage("Premier", 1, faux, 1) +
+                Fromage("Dernier", 1, 1, faux);
+  }
+  d.fichiers[Donnees::GLF1] = fromages + Fromage("Lait", 4, 1, 1);
   return d;
 }
 
@@ -152,6 +222,7 @@ Dossier Rayons() {
 
 Dossier Tronque() {
   Dossier d = DeuxFamilles();
+  d.fichiers.merge(AutresCatalogues().fichiers);
   for (auto& [fichier, octets] : d.fichiers) {
     octets.resize(octets.size() - octets.size() / 3);
   }
@@ -162,6 +233,9 @@ Dossier ReduitesAuxEntetes() {
   Dossier d = DeuxFamilles();
   d.fichiers[Donnees::GLR1].resize(2);
   d.fichiers[Donnees::GLR2].resize(2);
+  for (const Donnees fichier : {Donnees::GLF1, Donnees::GLM1, Donnees::GLT1}) {
+    d.fichiers[fichier] = Mot(200);
+  }
   return d;
 }
 
@@ -204,6 +278,9 @@ std::vector<Graine> Graines() {
       {"comptes-trop-bas", Comptes(1, 1).octets()},
       {"reduites-aux-entetes", ReduitesAuxEntetes().octets()},
       {"references", References().octets()},
+      {"autres-catalogues", AutresCatalogues().octets()},
+      {"autres-references", AutresReferences().octets()},
+      {"codes-faux", CodesFaux().octets()},
       {"images", Images().octets()},
       {"tous-les-octets", TousLesOctets().octets()},
       {"rayons", Rayons().octets()},

@@ -9,6 +9,8 @@
 #include "data/Main.h"
 #include "data/ProceduresFichiers.h"
 #include "doublures/ServicesEssai.h"
+#include "fiches/CatalogueFiches.h"
+#include "fromages/CatalogueFromages.h"
 #include "fuzz/Entree.h"
 #include "recettes/LectureRecettes.h"
 
@@ -31,6 +33,9 @@ class Vie {
       if (bilan_.cadre) {
         Listes();
         Recettes();
+        Fromages();
+        Fiches(fichiersMenus, bilan_.menus);
+        Fiches(fichiersTrucs, bilan_.trucs);
         Courses();
         Essaie([&] { static_cast<void>(MesureRecettes(module_)); });
         Essaie([&] { static_cast<void>(OuvreFichiersRecettes(module_, true)); });
@@ -109,6 +114,63 @@ class Vie {
     });
     for (const std::int32_t numero : autres) {
       Essaie([&] { static_cast<void>(LitRecette(module_, numero)); });
+    }
+  }
+
+  void Fromages() {
+    Lus& lus = bilan_.fromages;
+    Essaie([&] {
+      lus.liste = ListeFromages(module_);
+      VerifieListe(lus.liste, module_.bufFromage);
+    });
+    LitTout(lus, [&](std::int32_t numero) {
+      FromageLu lu = LitFromage(module_, numero);
+      Verifie(lu.region.size() <= std::size_t{limiteRegionFromage}, "une région trop longue");
+      return std::move(lu.notes);
+    });
+    for (std::int16_t lait = -1; lait <= std::ssize(laitNoms); ++lait) {
+      Essaie([&] {
+        const auto avant = Code(module_.bufFromage.courant());
+        const Liste duLait = FromagesAuLait(module_, lait);
+        Verifie(duLait.size() <= static_cast<std::size_t>(module_.bufFromage.nbActifs()),
+                "plus de fromages d'un lait que de fromages");
+        Verifie(Code(module_.bufFromage.courant()) == avant, "un tri qui change le fromage lu");
+      });
+    }
+  }
+
+  void Fiches(const FichiersFiches& fichiers, Lus& lus) {
+    CatalogueFiches catalogue(module_, fichiers);
+    Essaie([&] {
+      lus.liste = catalogue.ListeTitres();
+      VerifieListe(lus.liste, module_.*fichiers.tampon);
+    });
+    LitTout(lus, [&](std::int32_t numero) {
+      std::string texte = catalogue.LitTexte(numero);
+      Verifie(texte.size() <= std::size_t{limiteTexteFiche}, "un texte plus long que sa limite");
+      return texte;
+    });
+  }
+
+  /// The header counts what the list holds, and every entry bears the number of a record.
+  template <class T>
+  static void VerifieListe(const Liste& liste, FichierEnregistrements<T>& fichier) {
+    Trie(liste);
+    Verifie(liste.size() == static_cast<std::size_t>(fichier.nbActifs()),
+            "une liste d'un autre nombre que l'en-tête");
+    for (const EntreeListe& entree : liste) {
+      Verifie(entree.donnee >= 2 && entree.donnee <= fichier.Nombre(), "une entrée sans fiche");
+    }
+  }
+
+  /// Reads each entry of a list, then numbers that no list gives.
+  template <class Lecture>
+  void LitTout(Lus& lus, Lecture&& lit) {
+    for (const EntreeListe& entree : lus.liste) {
+      Essaie([&] { lus.textes.push_back(lit(entree.donnee)); });
+    }
+    for (const std::int32_t numero : Numeros({})) {
+      Essaie([&] { static_cast<void>(lit(numero)); });
     }
   }
 

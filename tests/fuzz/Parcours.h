@@ -1,5 +1,5 @@
-// One life of the program on the folder of an input: the start, every list, every recipe, the aisle
-// texts and their rewriting, the measure of the dead space.
+// One life of the program on the folder of an input: the start, every list, every recipe, cheese,
+// menu and tip, the aisle texts and their rewriting, the measure of the dead space.
 #pragma once
 
 #include <optional>
@@ -11,6 +11,12 @@
 
 namespace gastrelle::essai {
 
+/// What was read of a catalogue beside the recipes.
+struct Lus {
+  Liste liste;
+  std::vector<std::string> textes;  ///< of the entries of `liste` that could be read
+};
+
 /// How far it got. A failure of one step doesn't keep the next one from being tried.
 struct Bilan {
   bool cadre = false;      ///< the start got to the frame
@@ -19,8 +25,11 @@ struct Bilan {
   Liste recettes;
   std::vector<std::string> textes;  ///< of the recipes of `recettes` that could be read
   std::vector<std::string> images;  ///< the pictures that were found
-  std::size_t pannes = 0;           ///< steps that ended in an ErreurExecution
-  std::size_t rayons = 0;           ///< aisles with a text
+  Lus fromages;
+  Lus menus;
+  Lus trucs;
+  std::size_t pannes = 0;  ///< steps that ended in an ErreurExecution
+  std::size_t rayons = 0;  ///< aisles with a text
 };
 
 /// Only ErreurExecution and the end of the program are accepted on the way: any other exception,

@@ -84,6 +84,43 @@ TEST(Corpus, UneReferenceDemesureeDonneCeQueLeFichierTient) {
   EXPECT_GT(bilan.pannes, 0U);
 }
 
+TEST(Corpus, LesFromagesLesMenusEtLesTrucsSontLus) {
+  const Bilan bilan = Graine("autres-catalogues");
+  EXPECT_THAT(bilan.fromages.liste, ElementsAre(EntreeListe{"Banon", 2}, EntreeListe{"Brie", 4},
+                                                EntreeListe{std::string("Époisses"_1252), 5}));
+  EXPECT_THAT(bilan.fromages.textes, ElementsAre("En feuille.", "", ""));
+  EXPECT_THAT(bilan.menus.liste,
+              ElementsAre(EntreeListe{std::string("Noël"_1252), 2}, EntreeListe{"Noce", 3}));
+  EXPECT_THAT(bilan.menus.textes, ElementsAre("Du vin.", ""));
+  EXPECT_THAT(bilan.trucs.liste, ElementsAre(EntreeListe{"Blanchir", 2}));
+  EXPECT_THAT(bilan.trucs.textes, ElementsAre("A l'eau. !"));
+}
+
+TEST(Corpus, LesAutresCataloguesReduitsAuxEntetesSontVides) {
+  const Bilan bilan = Graine("reduites-aux-entetes");
+  EXPECT_THAT(bilan.fromages.liste, IsEmpty());
+  EXPECT_THAT(bilan.menus.liste, IsEmpty());
+  EXPECT_THAT(bilan.trucs.liste, IsEmpty());
+}
+
+// A position below 1 is no text; a negative length behind a position is the one failure.
+TEST(Corpus, LesReferencesDesAutresCataloguesDonnentCeQueLaReserveTient) {
+  const Bilan bilan = Graine("autres-references");
+  EXPECT_THAT(bilan.fromages.textes, testing::Contains("GLF2.DATEn feuille."));
+  EXPECT_THAT(bilan.menus.textes, testing::Contains("GLM2.DATDu vin."));
+  EXPECT_THAT(bilan.trucs.textes, testing::Contains("GLT2.DATA l'eau. !"));
+  for (const Lus* lus : {&bilan.fromages, &bilan.menus, &bilan.trucs}) {
+    EXPECT_EQ(lus->liste.size(), 9U);
+    EXPECT_EQ(lus->textes.size(), 8U);
+  }
+}
+
+TEST(Corpus, UnCodeHorsDeSaTableNEmpecheQueSonFromage) {
+  const Bilan bilan = Graine("codes-faux");
+  EXPECT_EQ(bilan.fromages.liste.size(), 14U);
+  EXPECT_EQ(bilan.fromages.textes.size(), 1U);
+}
+
 TEST(Corpus, SuitLesCheminsDImageQuiMenentQuelquePart) {
   EXPECT_THAT(Graine("images").images,
               ElementsAre("/photos/soupe.png", "/gastrelle/IMAGE/soupe.png"));

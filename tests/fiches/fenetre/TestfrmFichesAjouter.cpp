@@ -10,6 +10,7 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
+using testing::SizeIs;
 
 class FichesAjouter : public FenetreFiches {
  protected:
@@ -169,6 +170,32 @@ TEST_P(FichesAjouter, RevenirALaFenetreVideLaSaisieSansUnMot) {
   EXPECT_TRUE(SaisiesVides());
   EXPECT_THAT(b.messages.vus, IsEmpty());
   EXPECT_THAT(b.messages.questions, IsEmpty());
+}
+
+TEST_P(FichesAjouter, LeSablierEstLaDesLePremierAppelDuDisque) {
+  Ouvre(2);
+  Saisit("Noce", "Du vin.");
+  AttendSablier([&] { Valide(); });
+}
+
+TEST_P(FichesAjouter, UneFoisLaFicheAjouteeSonTexteALeFocus) {
+  Ouvre(2);
+  Saisit("Noce", "Du vin.");
+  Valide();
+  EXPECT_EQ(onglet(), 1);
+  EXPECT_TRUE(aLeFocus(cas.texte));
+  EXPECT_FALSE(b.pointeur.sablier);
+}
+
+TEST_P(FichesAjouter, LePointeurEstNormalPendantLesRefus) {
+  Ouvre(2);
+  ExigePointeurNormalAuxMessages();
+  Valide();
+  EXPECT_THAT(b.messages.vus, SizeIs(1));
+  Saisit("Noce", "Du vin.");
+  b.dossier.Supprime(Nom(c.textes));
+  Valide();
+  EXPECT_THAT(b.messages.vus, SizeIs(3));
 }
 
 }  // namespace

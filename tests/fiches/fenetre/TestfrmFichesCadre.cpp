@@ -1,6 +1,8 @@
 // The windows of menus and tips inside the real frame: what each tab allows, and the one entry that
 // the menus never touch.
 
+#include <tuple>
+
 #include "doublures/CadreVrai.h"
 
 namespace gastrelle::essai {
@@ -12,7 +14,6 @@ class FichesDansLeCadre : public CadreVrai {
     b.GarnitFiches(Donnees::GLM1);
     b.GarnitFiches(Donnees::GLT1);
   }
-  QMdiSubWindow& Sous(const char* nom) { return *static_cast<QMdiSubWindow*>(Le(nom).parent()); }
   bool BoutonPermis(const char* cle) { return BoutonBarre(cle).isEnabled(); }
   void FermeTout() {
     Choisit("mnuWindowClose");
@@ -100,6 +101,56 @@ TEST_F(FichesDansLeCadre, LaSeuleFenetreOuverteSuitLaPreferenceDeTaille) {
   b.module->prefs[0].fenetreNormale = 1;
   Choisit("mnuViewTermesTrucsAstuces");
   EXPECT_FALSE(Sous("frmTrucs").isMaximized());
+}
+
+TEST_F(FichesDansLeCadre, ReduitesEllesLaissentLeCadreTelQuIlEst) {
+  Ouvre();
+  for (const auto& [entree, fenetre, code] :
+       {std::tuple{"mnuViewMenus", "frmMenus", 31},
+        std::tuple{"mnuViewTermesTrucsAstuces", "frmTrucs", 61}}) {
+    SCOPED_TRACE(fenetre);
+    Choisit(entree);
+    const std::string motif = Motif();
+    Sous(fenetre).showMinimized();
+    QApplication::processEvents();
+    EXPECT_EQ(b.module->contexteActif, code);
+    EXPECT_TRUE(Entree(entree).isChecked());
+    EXPECT_EQ(Motif(), motif);
+  }
+}
+
+TEST_F(FichesDansLeCadre, QuitterUneFenetreReduiteLuiLaisseSaCoche) {
+  Ouvre();
+  Choisit("mnuViewMenus");
+  Sous("frmMenus").showMinimized();
+  Choisit("mnuViewTermesTrucsAstuces");
+  EXPECT_EQ(b.module->contexteActif, 61);
+  EXPECT_TRUE(Entree("mnuViewMenus").isChecked());
+}
+
+TEST_F(FichesDansLeCadre, ActiverUneFenetreReduiteNePoseRien) {
+  Ouvre();
+  Choisit("mnuViewMenus");
+  CliqueOnglet(Le("frmMenus"), 2);
+  Tape(Le("txtSaisieNomMenu"), "Noce");
+  Sous("frmMenus").showMinimized();
+  Choisit("mnuViewTermesTrucsAstuces");
+  enfants().setActiveSubWindow(&Sous("frmMenus"));
+  QApplication::processEvents();
+  ASSERT_TRUE(Sous("frmMenus").isMinimized());
+  EXPECT_FALSE(Entree("mnuViewTermesTrucsAstuces").isChecked());
+  EXPECT_EQ(b.module->contexteActif, 0);
+  EXPECT_EQ(Motif(), "---------");
+  EXPECT_EQ(Texte(Le("txtSaisieNomMenu")), "Noce");
+}
+
+TEST_F(FichesDansLeCadre, LePointeurEstUneFlecheUneFoisLaFenetreActive) {
+  Ouvre();
+  for (const char* entree : {"mnuViewMenus", "mnuViewTermesTrucsAstuces", "mnuViewMenus"}) {
+    b.pointeur.Sablier();
+    Choisit(entree);
+    EXPECT_FALSE(b.pointeur.sablier) << entree;
+  }
 }
 
 }  // namespace

@@ -168,5 +168,45 @@ TEST_P(FichesListe, UnFichierSansFicheOuvreUneFenetreVide) {
   EXPECT_FALSE(FinVue());
 }
 
+TEST_P(FichesListe, ReduireLaFenetreNeRendPasLeCadre) {
+  Ouvre();
+  fenetre->Reduit();
+  EXPECT_THAT(cadre->quittes, IsEmpty());
+  EXPECT_EQ(b.module->contexteActif, cas.contexteBase + 1);
+}
+
+TEST_P(FichesListe, LeSablierEstLaDesLePremierAppelDuDisque) {
+  Ajoute("Agape", "Du vin.");
+  Ouvre();
+  AttendSablier([&] { Choisit(combo(), "Fiche 002"); });
+}
+
+TEST_P(FichesListe, LaListeSeLitSousLeSablier) {
+  b.Demarre();
+  cadre.emplace(*b.module);
+  AttendSablier([&] { fenetre = Cree(); }, "longueur " + Nom(c.fiches));
+}
+
+TEST_P(FichesListe, LePointeurEstNormalPourDireUnFichierDisparu) {
+  Ouvre();
+  ExigePointeurNormalAuxMessages();
+  b.dossier.Supprime(Nom(c.textes));
+  Choisit(combo(), 0);
+  AttendFinFatale(c.textes);
+}
+
+TEST_P(FichesListe, UneLectureQuiEchoueALOuvertureFinitLeProgrammeSansAutreMessage) {
+  b.Demarre();
+  cadre.emplace(*b.module);
+  b.disque.EchoueSur("lit " + Nom(c.fiches), Panne::entreeSortie);
+  EXPECT_THROW(Cree(), FinDuProgramme);
+  AttendMessage("Erreur fatale. Impossibilité de continuer.", Icone::critique);
+}
+
+TEST_P(FichesListe, ChaqueBoutonDAideEnvoieLaToucheF1) {
+  Ouvre();
+  AttendF1({"cmdAideListe", "cmdAideAjouter", "cmdAideModifier", "cmdAideSupprimer"});
+}
+
 }  // namespace
 }  // namespace gastrelle::essai

@@ -18,6 +18,17 @@ class FichesModifier : public FenetreFiches {
   void Valide() { Clique(Le("cmdValideModifier")); }
   QWidget& titre() { return Le(cas.titreModifier); }
   QWidget& sonTexte() { return Le(cas.texteModifier); }
+  /// Changes "Agape" while the n-th write fails: the program ends, the record as it was.
+  void EchoueALEcriture(std::size_t n) {
+    const std::string avant = Octets(Lue(premiere));
+    Remplace(titre(), "Noces");
+    Remplace(sonTexte(), "Bref");
+    b.disque.EchoueALaNiemeEcriture(n, Panne::disquePlein);
+    Valide();
+    AttendFinFatale();
+    EXPECT_EQ(onglet(), 3);
+    EXPECT_EQ(Octets(Lue(premiere)), avant);
+  }
   void AttendCurseursAuDebut() {
     EXPECT_EQ(Le<QLineEdit>(cas.titreModifier).cursorPosition(), 0);
     EXPECT_EQ(Le<QPlainTextEdit>(cas.texteModifier).textCursor().position(), 0);
@@ -140,6 +151,7 @@ TEST_P(FichesModifier, UneFicheQueLaListeNeRetrouvePlusFinitLeProgrammeUneFoisEc
   Remplace(titre(), "Bals");
   Valide();
   AttendFinFatale();
+  EXPECT_EQ(onglet(), 3);
   EXPECT_EQ(Titre(premiere + 1), "Bals");
 }
 
@@ -175,6 +187,47 @@ TEST_P(FichesModifier, SansFicheAfficheeValiderFinitLeProgrammeSansRienEcrire) {
   Valide();
   AttendFinFatale();
   EXPECT_THAT(Changements(), IsEmpty());
+}
+
+TEST_P(FichesModifier, LeTitreEtLeTexteOntLeursLimites) {
+  OuvreAgape();
+  Remplace(titre(), QString(130, 'x'));
+  EXPECT_EQ(Texte(titre()), QString(128, 'x'));
+  EXPECT_EQ(sonTexte().property("maxLength").toInt(), 30000);
+}
+
+TEST_P(FichesModifier, LeSablierEstLaDesLePremierAppelDuDisque) {
+  OuvreAgape();
+  AttendSablier([&] { Valide(); });
+}
+
+TEST_P(FichesModifier, UneFoisLaFicheModifieeSonTexteALeFocus) {
+  OuvreAgape();
+  Valide();
+  EXPECT_EQ(onglet(), 1);
+  EXPECT_TRUE(aLeFocus(cas.texte));
+  EXPECT_FALSE(b.pointeur.sablier);
+}
+
+TEST_P(FichesModifier, LePointeurEstNormalPendantLeRefus) {
+  OuvreAgape();
+  Remplace(titre(), "");
+  b.pointeur.Sablier();
+  ExigePointeurNormalAuxMessages();
+  Valide();
+  AttendMessage(cas.sansTitreModifier);
+}
+
+TEST_P(FichesModifier, UnTexteQuiNeSEcritPasFinitLeProgrammeSansQuitterLOnglet) {
+  OuvreAgape();
+  EchoueALEcriture(1);
+  EXPECT_EQ(Textes(b, c).substr(8), "Dix octets");
+}
+
+TEST_P(FichesModifier, UneFicheQuiNeSEcritPasFinitLeProgrammeSansQuitterLOnglet) {
+  OuvreAgape();
+  EchoueALEcriture(2);
+  EXPECT_EQ(Textes(b, c).substr(8), "Brefoctets");
 }
 
 }  // namespace

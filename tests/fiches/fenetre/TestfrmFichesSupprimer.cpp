@@ -130,5 +130,19 @@ TEST_P(FichesSupprimer, UnEnteteQuiNeSEcritPasLaisseLaFicheEteinte) {
   EXPECT_EQ(Compte(b, c), c.dernierProtege);
 }
 
+TEST_P(FichesSupprimer, LeSablierEstLaDesLePremierAppelDuDisque) {
+  Ajoute("Agape");
+  Ouvre(4);
+  AttendSablier([&] { Supprime(); });
+}
+
+TEST_P(FichesSupprimer, UneFoisLaFicheSupprimeeLeTexteDeLaPremiereALeFocus) {
+  Ajoute("Agape");
+  Ouvre(4);
+  Supprime();
+  EXPECT_TRUE(aLeFocus(cas.texte));
+  EXPECT_FALSE(b.pointeur.sablier);
+}
+
 }  // namespace
 }  // namespace gastrelle::essai

@@ -10,8 +10,11 @@
 namespace gastrelle::essai {
 namespace {
 
+using testing::Contains;
 using testing::ElementsAre;
+using testing::HasSubstr;
 using testing::IsEmpty;
+using testing::Not;
 
 // Cheese 124 begins at byte 123 * 208 = 25584 of its file.
 class ChangementDesFromages : public testing::Test {
@@ -210,6 +213,66 @@ TEST_F(ChangementDesFromages, UneSuppressionQuiEchoueGardeCeQuiEstDejaEcrit) {
           EXPECT_EQ(FicheFromage(avec, 1).actif, 123);
         }
         EXPECT_EQ(NomFromage(avec, 124), "Abondance");
+      });
+}
+
+TEST_F(ChangementDesFromages, UnChangementExigeSesFichiersPuisEcritSansRienRelire) {
+  DemarreSurAbondance(b);
+  ChangeFromage(*b.module, 124, {"Banon", {}, 2, 0, 0, "Bref"});
+  EXPECT_THAT(b.disque.journal(), ElementsAre("existe GLF1.DAT", "existe GLF2.DAT",
+                                              "écrit GLF2.DAT 8+4", "écrit GLF1.DAT 25584+208"));
+}
+
+TEST_F(ChangementDesFromages, LAncienneReferenceEstCelleDeLaFicheDeTravail) {
+  DemarreSurAbondance(b);
+  b.module->bufFromage.courant().lgTexte = 3;
+  ChangeFromage(*b.module, 124, {"Abondance", {}, 0, 0, 0, "Bref"});
+  EXPECT_EQ(FicheFromage(b, 124).posTexte, 19);
+  EXPECT_THAT(b.disque.journal(), Not(Contains(HasSubstr("lit GLF1.DAT"))));
+}
+
+TEST_F(ChangementDesFromages, SupprimerRelitLaFicheEtNeDemandePasLesNotes) {
+  DemarreSurAbondance(b);
+  LitFromage(*b.module, 2);
+  b.disque.OublieJournal();
+  SupprimeFromage(*b.module, 124);
+  EXPECT_EQ(NomFromage(b, 124), "Abondance");
+  EXPECT_THAT(b.disque.journal(), ElementsAre("existe GLF1.DAT", "lit GLF1.DAT 25584+208",
+                                              "écrit GLF1.DAT 25584+208", "écrit GLF1.DAT 0+208"));
+}
+
+TEST_F(ChangementDesFromages, LEnteteNeChangeQueDeCompte) {
+  GarnitEntete<RecFromage>(b, "GLF1.stp");
+  DemarreSurAbondance(b);
+  const std::string avant = Entete<RecFromage>(b, "GLF1.DAT");
+  AjouteFromage(*b.module, {"Banon", {}, 0, 0, 0, {}});
+  EXPECT_EQ(Entete<RecFromage>(b, "GLF1.DAT"), AvecCompte(avant, 124));
+  SupprimeFromage(*b.module, 125);
+  EXPECT_EQ(Entete<RecFromage>(b, "GLF1.DAT"), AvecCompte(avant, 123));
+  ChangeFromage(*b.module, 124, {"Banon", {}, 0, 0, 0, "x"});
+  EXPECT_EQ(Entete<RecFromage>(b, "GLF1.DAT"), AvecCompte(avant, 123));
+}
+
+TEST_F(ChangementDesFromages, DesNotesPlusCourtesQuiEchouentLaissentLaFiche) {
+  EchoueAChaqueEcriture(
+      2,
+      [](Bibliotheque& avec) {
+        avec.GarnitFromages();
+        avec.AjouteFromage(Fromage("Abondance"), "Dix octets");
+      },
+      [](Bibliotheque& avec) {
+        LitFromage(*avec.module, 124);
+        ChangeFromage(*avec.module, 124, {"Banon", {}, 0, 0, 0, "Bref"});
+      },
+      [](const Bibliotheque& avec, std::size_t n, Maniere maniere) {
+        const bool moitie = maniere == Maniere::moitieEcrite;
+        EXPECT_EQ(avec.dossier.Lit("GLF2.DAT"), n == 2   ? "GLF2.DATBrefoctets"
+                                                : moitie ? "GLF2.DATBrx octets"
+                                                         : "GLF2.DATDix octets");
+        EXPECT_EQ(FicheFromage(avec, 124).posTexte, 9);
+        EXPECT_EQ(FicheFromage(avec, 124).lgTexte, 10);
+        EXPECT_EQ(NomFromage(avec, 124), n == 2 && moitie ? "Banon" : "Abondance");
+        EXPECT_EQ(FicheFromage(avec, 1).actif, 123);
       });
 }
 

@@ -8,8 +8,11 @@
 namespace gastrelle::essai {
 namespace {
 
+using testing::Each;
 using testing::ElementsAre;
 using testing::IsEmpty;
+using testing::Not;
+using testing::StartsWith;
 
 class LectureDesFromages : public testing::Test {
  protected:
@@ -60,7 +63,7 @@ TEST_F(LectureDesFromages, SauteLesFromagesSupprimes) {
 }
 
 TEST_F(LectureDesFromages, RepareUnCompteTropHautEnMemoireEtSurLeDisque) {
-  PoseCompteFromages(b, "GLF1.stp", 125);
+  PoseCompte(b, "GLF1.stp", 125);
   b.Demarre();
   EXPECT_EQ(ListeFromages(*b.module).size(), 122U);
   EXPECT_EQ(b.module->bufFromage.nbActifs(), 122);
@@ -68,8 +71,24 @@ TEST_F(LectureDesFromages, RepareUnCompteTropHautEnMemoireEtSurLeDisque) {
   EXPECT_EQ(FicheFromage(b, 1).actif, 122);
 }
 
+TEST_F(LectureDesFromages, UneReparationNeChangeQueLeCompteDeLEntete) {
+  GarnitEntete<RecFromage>(b, "GLF1.stp");
+  PoseCompte(b, "GLF1.stp", 300);
+  b.Demarre();
+  const std::string avant = Entete<RecFromage>(b, "GLF1.DAT");
+  ListeFromages(*b.module);
+  EXPECT_EQ(Entete<RecFromage>(b, "GLF1.DAT"), AvecCompte(avant, 122));
+}
+
+TEST_F(LectureDesFromages, LaListeDUnLaitNeDemandePasSiLeFichierEstLa) {
+  b.Demarre();
+  FromagesAuLait(*b.module, 1);
+  EXPECT_EQ(b.disque.journal().front(), "longueur GLF1.DAT");
+  EXPECT_THAT(b.disque.journal(), Each(Not(StartsWith("existe"))));
+}
+
 TEST_F(LectureDesFromages, UneReparationQuiEchoueEstIgnoree) {
-  PoseCompteFromages(b, "GLF1.stp", 125);
+  PoseCompte(b, "GLF1.stp", 125);
   b.Demarre();
   b.disque.EchoueSur("écrit GLF1.DAT", Panne::disquePlein);
   EXPECT_EQ(ListeFromages(*b.module).size(), 122U);
@@ -78,7 +97,7 @@ TEST_F(LectureDesFromages, UneReparationQuiEchoueEstIgnoree) {
 
 TEST_F(LectureDesFromages, UnCompteTropBasArreteLaListeSansRienReparer) {
   b.AjouteFromage(Fromage("Abondance"));
-  PoseCompteFromages(b, "GLF1.stp", 122);
+  PoseCompte(b, "GLF1.stp", 122);
   b.Demarre();
   EXPECT_EQ(ListeFromages(*b.module).back().texte, "Fromage 123");
   EXPECT_THAT(b.disque.changements(), IsEmpty());
@@ -92,7 +111,7 @@ TEST_F(LectureDesFromages, UnFichierReduitASonEnteteNeDonneAucunFromage) {
 }
 
 TEST_F(LectureDesFromages, UneLectureQuiEchoueNeRepareRien) {
-  PoseCompteFromages(b, "GLF1.stp", 125);
+  PoseCompte(b, "GLF1.stp", 125);
   b.Demarre();
   b.disque.EchoueSur("lit GLF1.DAT", Panne::entreeSortie);
   EXPECT_THROW(ListeFromages(*b.module), ErreurExecution);
@@ -119,7 +138,7 @@ TEST_F(LectureDesFromages, LaListeDUnLaitLaisseLeFromageAffiche) {
 }
 
 TEST_F(LectureDesFromages, LaListeDUnLaitRepareAussiLeCompte) {
-  PoseCompteFromages(b, "GLF1.stp", 125);
+  PoseCompte(b, "GLF1.stp", 125);
   b.Demarre();
   FromagesAuLait(*b.module, 3);
   EXPECT_EQ(b.module->bufFromage.nbActifs(), 122);

@@ -195,12 +195,6 @@ TEST_F(AjouterUnFromage, LesListesSeulesSEffacentSansQuestion) {
   EXPECT_THAT(b.messages.questions, IsEmpty());
 }
 
-TEST_F(AjouterUnFromage, LesBoutonsDisentCeQuIlsFont) {
-  Ouvre(2);
-  EXPECT_EQ(Le("cmdValideAjouter").toolTip(), "Valider la saisie");
-  EXPECT_EQ(Le("cmdEffacerAjouter").toolTip(), "Effacer toutes les saisies");
-}
-
 TEST_F(AjouterUnFromage, LeClavierSuitLOrdreDesChamps) {
   Ouvre(2);
   for (const char* suivant : {"txtRegionAjouter", "ComboLaitAjouter", "ComboPremierMoisAjouter",
@@ -208,6 +202,38 @@ TEST_F(AjouterUnFromage, LeClavierSuitLOrdreDesChamps) {
     QTest::keyClick(fenetre->focusWidget(), Qt::Key_Tab);
     EXPECT_TRUE(aLeFocus(suivant)) << suivant;
   }
+}
+
+TEST_F(AjouterUnFromage, LeSablierEstLaDesLePremierAppelDuDisque) {
+  Ouvre(2);
+  Tape(nom(), "Brie");
+  AttendSablier([&] { Clique(Le("cmdValideAjouter")); });
+}
+
+TEST_F(AjouterUnFromage, LePointeurEstNormalPourDireUneReserveDisparue) {
+  Ouvre(2);
+  Tape(nom(), "Brie");
+  Tape(Le("txtNotesAjouter"), "x");
+  b.dossier.Supprime("GLF2.DAT");
+  ExigePointeurNormalAuxMessages();
+  Clique(Le("cmdValideAjouter"));
+  EXPECT_THAT(b.messages.vus, SizeIs(2));
+}
+
+TEST_F(AjouterUnFromage, RevenirALaFenetreOublieLaSaisieSansUnMot) {
+  Ouvre(2);
+  Tape(nom(), "Brie");
+  Tape(Le("txtRegionAjouter"), "Meaux");
+  Tape(Le("txtNotesAjouter"), "Note");
+  Choisit(lait(), 1);
+  Choisit(premier(), 1);
+  Choisit(dernier(), 1);
+  fenetre->Desactive();
+  fenetre->Active();
+  EXPECT_EQ(onglet(), 2);
+  EXPECT_EQ(champs(), (QStringList{"", "", "?", "?", "?", ""}));
+  EXPECT_TRUE(aLeFocus("txtFromageAjouter"));
+  EXPECT_THAT(b.messages.questions, IsEmpty());
 }
 
 }  // namespace

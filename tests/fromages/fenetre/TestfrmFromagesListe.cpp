@@ -1,7 +1,5 @@
 // The tab "Liste" of the cheeses window, through its controls.
 
-#include <QTest>
-
 #include "fromages/fenetre/FenetreFromages.h"
 
 namespace gastrelle::essai {
@@ -85,7 +83,7 @@ TEST_F(ListeDesFromages, LeNombreDeFromagesSeLitSurChaqueOngletToujoursAuPluriel
 }
 
 TEST_F(ListeDesFromages, UnCompteFauxEstRepareALOuverture) {
-  PoseCompteFromages(b, "GLF1.stp", 125);
+  PoseCompte(b, "GLF1.stp", 125);
   Ouvre();
   EXPECT_EQ(TexteDe("txtAnnonce(0)"), "122\nfromages");
   EXPECT_EQ(FicheFromage(b, 1).actif, 122);
@@ -162,35 +160,6 @@ TEST_F(ListeDesFromages, LesOngletsDeSaisieNAffichentRien) {
   }
 }
 
-TEST_F(ListeDesFromages, ChaqueOngletASesTextes) {
-  OuvreEtParcourt();
-  const auto& onglets = Le<QTabBar>("TabStrip1");
-  QStringList titres;
-  QStringList infobulles;
-  QStringList entetes;
-  QStringList logos;
-  for (int i = 0; i < onglets.count(); ++i) {
-    titres << onglets.tabText(i);
-    infobulles << onglets.tabToolTip(i);
-    auto& page = Le(QStringLiteral("Frame1(%1)").arg(i + 1).toUtf8());
-    entetes << Texte(Trouve(page, "Label1"));
-    logos << Trouve(page, "Image1").toolTip();
-  }
-  EXPECT_EQ(fenetre->windowTitle(), "Les fromages");
-  EXPECT_EQ(titres, (QStringList{"Liste", "Ajouter", "Modifier", "Supprimer", "Trier"}));
-  EXPECT_EQ(infobulles,
-            (QStringList{Fr("Les fromages mémorisées"), "Ajouter un fromage", "Modifier le fromage",
-                         "Supprimer le fromage", "Trier par lait"}));
-  EXPECT_EQ(entetes, (QStringList{Fr("Liste des fromages mémorisés"), "Ajout d'un fromage",
-                                  "Modification d'un fromage", "Suppression d'un fromage",
-                                  "Tri des fromages"}));
-  EXPECT_EQ(
-      logos,
-      (QStringList{Fr("Bon appétit !"), Fr("Vous ajoutez un fromage à la base de données"),
-                   Fr("Vous modifiez le fromage affiché"), Fr("Vous supprimez le fromage affiché"),
-                   "Vous triez les fromages par type de lait"}));
-}
-
 TEST_F(ListeDesFromages, ChaqueOngletASonContexte) {
   Ouvre();
   cadre->contextes.clear();
@@ -211,29 +180,7 @@ TEST_F(ListeDesFromages, UnClicSurLOngletPresentNeFaitRien) {
 
 TEST_F(ListeDesFromages, ChaqueBoutonDAideEnvoieLaToucheF1) {
   Ouvre();
-  fenetre->activateWindow();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(fenetre.get()));
-  class Ecoute final : public QObject {
-   public:
-    int appuis = 0;
-    bool eventFilter(QObject* objet, QEvent* evenement) override {
-      const auto* touche = evenement->type() == QEvent::KeyPress && objet->isWidgetType()
-                               ? static_cast<QKeyEvent*>(evenement)
-                               : nullptr;
-      appuis += touche != nullptr && touche->key() == Qt::Key_F1 && objet == qApp->focusWidget();
-      return false;
-    }
-  } ecoute;
-  qApp->installEventFilter(&ecoute);
-  int onglet = 1;
-  for (const char* bouton :
-       {"cmdAideListe", "cmdAideAjouter", "cmdAideModifier", "cmdAideSupprimer"}) {
-    CliqueOnglet(*fenetre, onglet++);
-    Clique(Le(bouton));
-  }
-  CliqueOnglet(*fenetre, 5);
-  Clique(Le("cmdAide"));
-  EXPECT_EQ(ecoute.appuis, 5);
+  AttendF1({"cmdAideListe", "cmdAideAjouter", "cmdAideModifier", "cmdAideSupprimer", "cmdAide"});
 }
 
 TEST_F(ListeDesFromages, LaDesactivationLaReductionEtLaFermetureQuittentLeContexte) {
@@ -249,6 +196,19 @@ TEST_F(ListeDesFromages, UneErreurFataleDejaLeveeFinitLeProgrammeALActivation) {
   Ouvre();
   b.module->erreurFatale = true;
   EXPECT_THROW(fenetre->Active(), FinDuProgramme);
+}
+
+TEST_F(ListeDesFromages, LeSablierEstLaDesLePremierAppelDuDisque) {
+  OuvreSurAbondance();
+  AttendSablier([&] { Choisit(fromages(), 1); });
+}
+
+TEST_F(ListeDesFromages, LePointeurEstNormalPourDireUnFichierDisparu) {
+  OuvreSurAbondance();
+  ExigePointeurNormalAuxMessages();
+  b.dossier.Supprime("GLF1.DAT");
+  Choisit(fromages(), 1);
+  EXPECT_THAT(b.messages.vus, SizeIs(2));
 }
 
 }  // namespace

@@ -16,16 +16,42 @@ class ModifierUnFromage : public FenetreFromages {
     return Champs("txtFromageModifier", "Modifier", "ComboLait", "Combo%1Mois");
   }
   void Valide() { Clique(Le("cmdValiderModifier")); }
+  /// Changes "Abondance" while the n-th write fails: the program ends, the record as it was.
+  void EchoueALEcriture(std::size_t n) {
+    const std::string avant = Octets(FicheFromage(b, 124));
+    Remplace(nom(), "Banon");
+    Remplace(Le("txtNotesModifier"), "Bref");
+    b.disque.EchoueALaNiemeEcriture(n, Panne::disquePlein);
+    Valide();
+    AttendFinFatale();
+    EXPECT_EQ(onglet(), 3);
+    EXPECT_EQ(Octets(FicheFromage(b, 124)), avant);
+  }
+  /// Opens on "Abondance" and changes all its fields in their boxes.
+  void OuvreEtChangeTout() {
+    OuvreSurAbondance(3);
+    Remplace(nom(), "Autre");
+    Remplace(Le("txtRegionModifier"), "Ailleurs");
+    Remplace(Le("txtNotesModifier"), "Rien");
+    Choisit(Le<QComboBox>("ComboLaitModifier"), 3);
+    Choisit(Le<QComboBox>("ComboPremierMoisModifier"), 0);
+    Choisit(Le<QComboBox>("ComboDernierMoisModifier"), 0);
+  }
+  /// The fields are those of "Abondance" on file, the cursors at their heads, the name in focus.
+  void AttendAbondance() {
+    EXPECT_EQ(champs(),
+              (QStringList{"Abondance", "Savoie", "Vache", "Avril", "Septembre", "Dix octets"}));
+    EXPECT_TRUE(aLeFocus("txtFromageModifier"));
+    EXPECT_EQ(Le<QLineEdit>("txtFromageModifier").cursorPosition(), 0);
+    EXPECT_EQ(Le<QLineEdit>("txtRegionModifier").cursorPosition(), 0);
+    EXPECT_EQ(Le<QPlainTextEdit>("txtNotesModifier").textCursor().position(), 0);
+    EXPECT_THAT(b.messages.questions, IsEmpty());
+  }
 };
 
 TEST_F(ModifierUnFromage, ReprendLeFromageAfficheLeCurseurEnTete) {
   OuvreSurAbondance(3);
-  EXPECT_EQ(champs(),
-            (QStringList{"Abondance", "Savoie", "Vache", "Avril", "Septembre", "Dix octets"}));
-  EXPECT_TRUE(aLeFocus("txtFromageModifier"));
-  EXPECT_EQ(Le<QLineEdit>("txtFromageModifier").cursorPosition(), 0);
-  EXPECT_EQ(Le<QLineEdit>("txtRegionModifier").cursorPosition(), 0);
-  EXPECT_EQ(Le<QPlainTextEdit>("txtNotesModifier").textCursor().position(), 0);
+  AttendAbondance();
 }
 
 TEST_F(ModifierUnFromage, LesBoitesOntLesLimitesDeLeursChamps) {
@@ -81,11 +107,9 @@ TEST_F(ModifierUnFromage, UnNomVideEstRefuseEtLAncienRevient) {
 TEST_F(ModifierUnFromage, LeNomDUnAutreFromageEstRefuseQuelleQueSoitLaCasse) {
   OuvreSurAbondance(3);
   Remplace(nom(), " FROMAGE 002");
-  bool sablierPendant = true;
-  b.messages.pendant = [&] { sablierPendant = b.pointeur.sablier; };
+  ExigePointeurNormalAuxMessages();
   Valide();
   AttendMessage("Ce fromage existe déjà.");
-  EXPECT_FALSE(sablierPendant);
   EXPECT_EQ(b.messages.bips, 0);
   EXPECT_EQ(TexteDe("txtFromageModifier"), "FROMAGE 002");
   EXPECT_TRUE(aLeFocus("txtFromageModifier"));
@@ -170,25 +194,93 @@ TEST_F(ModifierUnFromage, UnFichierDisparuFinitLeProgramme) {
   EXPECT_THAT(b.disque.changements(), IsEmpty());
 }
 
-TEST_F(ModifierUnFromage, ReinitialiserReprendLeFromageSansQuestion) {
-  OuvreSurAbondance(3);
-  Remplace(nom(), "Autre");
-  Remplace(Le("txtRegionModifier"), "Ailleurs");
-  Remplace(Le("txtNotesModifier"), "Rien");
-  Choisit(Le<QComboBox>("ComboLaitModifier"), 3);
-  Choisit(Le<QComboBox>("ComboPremierMoisModifier"), 0);
-  Choisit(Le<QComboBox>("ComboDernierMoisModifier"), 0);
+TEST_F(ModifierUnFromage, ReinitialiserReprendLeFromageSansQuestionLeCurseurEnTete) {
+  OuvreEtChangeTout();
   Clique(Le("cmdEffacerModifier"));
-  EXPECT_EQ(champs(),
-            (QStringList{"Abondance", "Savoie", "Vache", "Avril", "Septembre", "Dix octets"}));
-  EXPECT_TRUE(aLeFocus("txtFromageModifier"));
-  EXPECT_THAT(b.messages.questions, IsEmpty());
+  AttendAbondance();
 }
 
-TEST_F(ModifierUnFromage, LesBoutonsDisentCeQuIlsFont) {
+TEST_F(ModifierUnFromage, RevenirALaFenetreReprendLeFromageSansUnMot) {
+  OuvreEtChangeTout();
+  fenetre->Desactive();
+  fenetre->Active();
+  EXPECT_EQ(onglet(), 3);
+  AttendAbondance();
+}
+
+TEST_F(ModifierUnFromage, LeSecondDeDeuxFromagesDuMemeNomChangeSeul) {
+  b.AjouteFromage(Fromage("Brie", "Meaux", 1));
+  b.AjouteFromage(Fromage("Brie", "Melun", 1));
+  Ouvre();
+  const std::string premier = Octets(FicheFromage(b, 124));
+  Choisit(fromages(), 1);
+  CliqueOnglet(*fenetre, 3);
+  Remplace(Le("txtRegionModifier"), "Nangis");
+  Valide();
+  EXPECT_THAT(b.messages.vus, IsEmpty());
+  EXPECT_EQ(Octets(FicheFromage(b, 124)), premier);
+  EXPECT_EQ(Rogne(FicheFromage(b, 125).regionFromage.brut()), "Nangis");
+  EXPECT_EQ(fromages().currentData().toInt(), 125);
+  EXPECT_EQ(TexteDe("txtRegion"), "Nangis");
+}
+
+TEST_F(ModifierUnFromage, SansNotesLaReserveDisparueNeGenePas) {
+  OuvreSurAbondance(3);
+  Remplace(Le("txtNotesModifier"), "");
+  b.dossier.Supprime("GLF2.DAT");
+  Valide();
+  EXPECT_THAT(b.messages.vus, IsEmpty());
+  EXPECT_FALSE(FinVue());
+  EXPECT_EQ(onglet(), 1);
+  EXPECT_THAT(b.disque.changements(), ElementsAre("écrit GLF1.DAT 25584+208"));
+  EXPECT_EQ(FicheFromage(b, 124).posTexte, 0);
+}
+
+TEST_F(ModifierUnFromage, LeRefusDUnNomDejaDonnePrecedeLeRognageDuReste) {
+  OuvreSurAbondance(3);
+  Remplace(nom(), " Fromage 002 ");
+  Remplace(Le("txtRegionModifier"), " Berry ");
+  Remplace(Le("txtNotesModifier"), " Note ");
+  Valide();
+  AttendMessage("Ce fromage existe déjà.");
+  EXPECT_EQ(TexteDe("txtRegionModifier"), " Berry ");
+  EXPECT_EQ(TexteDe("txtNotesModifier"), " Note ");
+  EXPECT_THAT(b.disque.journal(), IsEmpty());
+}
+
+TEST_F(ModifierUnFromage, SansFromageValiderFinitLeProgrammeSansRienEcrire) {
+  b.dossier.Ecrit("GLF1.stp", b.dossier.Lit("GLF1.stp").substr(0, 208));
   Ouvre(3);
-  EXPECT_EQ(Le("cmdValiderModifier").toolTip(), "Valider la saisie");
-  EXPECT_EQ(Le("cmdEffacerModifier").toolTip(), Fr("Réinitialiser"));
+  Tape(nom(), "Noce");
+  Valide();
+  AttendFinFatale();
+  EXPECT_THAT(b.disque.changements(), IsEmpty());
+}
+
+TEST_F(ModifierUnFromage, DesNotesQuiNeSEcriventPasFinissentLeProgrammeSansQuitterLOnglet) {
+  OuvreSurAbondance(3);
+  EchoueALEcriture(1);
+  EXPECT_EQ(b.dossier.Lit("GLF2.DAT"), "GLF2.DATDix octets");
+}
+
+TEST_F(ModifierUnFromage, UneFicheQuiNeSEcritPasFinitLeProgrammeSansQuitterLOnglet) {
+  OuvreSurAbondance(3);
+  EchoueALEcriture(2);
+  EXPECT_EQ(b.dossier.Lit("GLF2.DAT"), "GLF2.DATBrefoctets");
+}
+
+TEST_F(ModifierUnFromage, LeSablierEstLaDesLePremierAppelDuDisque) {
+  OuvreSurAbondance(3);
+  AttendSablier([&] { Valide(); });
+}
+
+TEST_F(ModifierUnFromage, LePointeurEstNormalPendantLeRefusDUnNomVide) {
+  OuvreSurAbondance(3);
+  Remplace(nom(), "");
+  b.pointeur.Sablier();
+  ExigePointeurNormalAuxMessages();
+  Valide();
+  AttendMessage("Il faut donner un nom au fromage.");
 }
 
 }  // namespace

@@ -5,8 +5,11 @@
 namespace gastrelle::essai {
 namespace {
 
+using testing::Each;
 using testing::ElementsAre;
+using testing::HasSubstr;
 using testing::IsEmpty;
+using testing::Not;
 using testing::SizeIs;
 
 class SupprimerUnFromage : public FenetreFromages {
@@ -110,6 +113,22 @@ TEST_F(SupprimerUnFromage, UneEcritureQuiEchoueFinitLeProgramme) {
   AttendFinFatale();
   EXPECT_EQ(FicheFromage(b, 124).actif, 0);
   EXPECT_EQ(FicheFromage(b, 1).actif, 123);
+}
+
+TEST_F(SupprimerUnFromage, LeSablierEstLaDesLePremierAppelDuDisque) {
+  b.messages.reponses = {Reponse::oui};
+  OuvreSurAbondance(4);
+  AttendSablier([&] { Clique(Le("cmdSupprimer")); });
+}
+
+TEST_F(SupprimerUnFromage, NiLaSuppressionNiLAffichageQuiSuitNeDemandentLaReserve) {
+  b.messages.reponses = {Reponse::oui};
+  OuvreSurAbondance(4);
+  b.dossier.Supprime("GLF2.DAT");
+  Clique(Le("cmdSupprimer"));
+  EXPECT_THAT(b.disque.journal(), Each(Not(HasSubstr("GLF2"))));
+  EXPECT_THAT(b.messages.vus, IsEmpty());
+  EXPECT_EQ(onglet(), 1);
 }
 
 }  // namespace

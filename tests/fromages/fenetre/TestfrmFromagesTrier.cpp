@@ -7,8 +7,11 @@
 namespace gastrelle::essai {
 namespace {
 
+using testing::Each;
 using testing::ElementsAre;
 using testing::IsEmpty;
+using testing::Not;
+using testing::StartsWith;
 
 class TrierLesFromages : public FenetreFromages {
  protected:
@@ -79,11 +82,9 @@ TEST_F(TrierLesFromages, ChaqueLaitASonAnimal) {
 TEST_F(TrierLesFromages, UnLaitSansFromageLeDitEtRevientAuDepart) {
   OuvreAvecDeuxChevres();
   Choisit(lait(), 2);
-  bool sablierPendant = true;
-  b.messages.pendant = [&] { sablierPendant = b.pointeur.sablier; };
+  ExigePointeurNormalAuxMessages();
   Choisit(lait(), 3);
   AttendMessage("Aucun fromage mémorisé", Icone::aucune);
-  EXPECT_FALSE(sablierPendant);
   AttendPageDeDepart();
   EXPECT_EQ(lait().currentText(), "Brebis");
 }
@@ -212,6 +213,47 @@ TEST_F(TrierLesFromages, LesInfobullesDisentQuoiFaire) {
   Ouvre(5);
   EXPECT_EQ(Le("List1").toolTip(), Fr("Double-clic pour afficher la sélection"));
   EXPECT_EQ(Le("cmdActiver").toolTip(), Fr("Afficher le fromage sélectionné"));
+}
+
+TEST_F(TrierLesFromages, RevenirALaFenetreRepartSansLait) {
+  OuvreAvecDeuxChevres();
+  Choisit(lait(), 2);
+  fenetre->Desactive();
+  fenetre->Active();
+  EXPECT_EQ(onglet(), 5);
+  EXPECT_EQ(lait().currentText(), "?");
+  AttendPageDeDepart();
+}
+
+TEST_F(TrierLesFromages, UnOngletRefuseLaisseLeTriTelQuIlEst) {
+  OuvreAvecDeuxChevres();
+  Choisit(lait(), 2);
+  QTest::keyClick(&liste(), Qt::Key_Down);
+  b.disque.OublieJournal();
+  for (const int refuse : {3, 4}) {
+    CliqueOnglet(*fenetre, refuse);
+    EXPECT_EQ(lait().currentText(), Fr("Chèvre"));
+    EXPECT_TRUE(liste().isVisible());
+    EXPECT_EQ(Textes(liste()), (QStringList{"banon", Fr("Valençay")}));
+    EXPECT_EQ(liste().currentIndex().row(), 1);
+    EXPECT_TRUE(Le("cmdActiver").isVisible());
+    EXPECT_EQ(Images(), QStringList{"PictureAnimal(1)"});
+  }
+  EXPECT_THAT(b.disque.journal(), IsEmpty());
+}
+
+TEST_F(TrierLesFromages, LeSablierEstLaDesLePremierAppelDuDisque) {
+  OuvreAvecDeuxChevres();
+  AttendSablier([&] { Choisit(lait(), 2); });
+}
+
+TEST_F(TrierLesFromages, LeTriLitLesFromagesSansDemanderSIlsSontLa) {
+  Ouvre(5);
+  b.dossier.Supprime("GLF1.DAT");
+  Choisit(lait(), 1);
+  EXPECT_THAT(b.disque.journal(), Each(Not(StartsWith("existe"))));
+  EXPECT_EQ(liste().model()->rowCount(), 122);
+  EXPECT_THAT(b.messages.vus, IsEmpty());
 }
 
 }  // namespace
