@@ -15,6 +15,7 @@
 #include "doublures/ApplicationEssai.h"
 #include "doublures/Bibliotheque.h"
 #include "doublures/CadreEssai.h"
+#include "doublures/Depart.h"
 #include "doublures/EcouteF1.h"
 #include "doublures/Ecran.h"
 
@@ -114,6 +115,15 @@ class FenetreEssai : public testing::Test {
       Clique(Le(bouton));
       EXPECT_EQ(ecoute.appuis, parcouru) << bouton;
     }
+  }
+
+  /// The program ended because that file wasn't there any more, which was told first, and nothing
+  /// was written.
+  void AttendFinFatale(Donnees disparu) const {
+    AttendFinFatale();
+    ASSERT_THAT(b.messages.vus, testing::SizeIs(2));
+    EXPECT_EQ(b.messages.vus[0], NonTrouve(b, Nom(disparu)));
+    EXPECT_THAT(b.disque.changements(), testing::IsEmpty());
   }
 
   Bibliotheque b;

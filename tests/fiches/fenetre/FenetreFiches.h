@@ -91,13 +91,6 @@ class FenetreFiches : public FenetreEssai<frmFiches>,
   }
   QComboBox& combo() { return Le<QComboBox>(cas.combo); }
   QWidget& texte() { return Le(cas.texte); }
-  using FenetreEssai::AttendFinFatale;
-  /// The program ended because that file wasn't there any more, which was told first.
-  void AttendFinFatale(Donnees disparu) const {
-    AttendFinFatale();
-    ASSERT_THAT(b.messages.vus, testing::SizeIs(2));
-    EXPECT_EQ(b.messages.vus[0], NonTrouve(b, Nom(disparu)));
-  }
   std::vector<std::string> Changements() const { return b.disque.changements(); }
   RecFiche Lue(std::int32_t numero) const { return Fiche(b, c, numero); }
   std::string Titre(std::int32_t numero) const { return TitreFiche(b, c, numero); }

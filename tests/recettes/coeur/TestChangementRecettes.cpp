@@ -104,6 +104,18 @@ TEST_F(Changement, UnTextePlusLongPasseALaFin) {
   EXPECT_EQ(Fiche(2).lgTexte, 12);
 }
 
+TEST_F(Changement, UnTextePlusLongEtUneImageSecriventAvantLaFiche) {
+  b.Demarre();
+  LitRecette(*b.module, 2);
+  b.disque.OublieJournal();
+  ChangeRecette(*b.module, 2, {2, "Soupe", "Douze lettre", "/s.png"});
+  EXPECT_THAT(b.disque.changements(),
+              ElementsAre("écrit GLR3.DAT 19+12", "écrit GLR4.DAT 8+6", "écrit GLR2.DAT 150+150"));
+  EXPECT_EQ(Fiche(2).posTexte, 20);
+  EXPECT_EQ(Fiche(2).posImage, 9);
+  EXPECT_EQ(Fiche(2).lgImage, 6);
+}
+
 TEST_F(Changement, UnTexteVidePerdSaReferenceEtLeSuivantPasseALaFin) {
   b.Demarre();
   LitRecette(*b.module, 2);
@@ -143,7 +155,26 @@ TEST_F(Changement, TrouveUnTitreDansUneAutreFamilleSansToucherLaFicheDeTravail) 
   EXPECT_EQ(Rogne(b.module->bufRecette.courant().nomRecette.brut()), "Velouté"_1252);
 }
 
-TEST_F(Changement, CherchUnTitreJusquALaFinDuFichierMemeQuandLeCompteEstTropBas) {
+TEST_F(Changement, UnTitreSupprimeDansLAutreFamilleNEnEstPlusUn) {
+  const std::int32_t famille = b.AjouteFamille("Poissons");
+  const std::int32_t sole = b.AjouteRecette(famille, "Sole");
+  b.Demarre();
+  ASSERT_TRUE(TitreDansAutreFamille(*b.module, 2, famille, "Sole"));
+  SupprimeRecette(*b.module, sole);
+  EXPECT_FALSE(TitreDansAutreFamille(*b.module, 2, famille, "Sole"));
+}
+
+TEST_F(Changement, UnTitreNeSeChercheQueDansLAutreFamille) {
+  const std::int32_t poissons = b.AjouteFamille("Poissons");
+  const std::int32_t entrees = b.AjouteFamille("Entrées"_1252);
+  b.AjouteRecette(2, "Sole");
+  b.AjouteRecette(entrees, "Sole");
+  b.Demarre();
+  EXPECT_FALSE(TitreDansAutreFamille(*b.module, 2, poissons, "Sole"));
+  EXPECT_TRUE(TitreDansAutreFamille(*b.module, 2, entrees, "Sole"));
+}
+
+TEST_F(Changement, ChercheUnTitreJusquALaFinDuFichierMemeQuandLeCompteEstTropBas) {
   const std::int32_t famille = b.AjouteFamille("Poissons");
   b.AjouteRecette(famille, "Sole");
   b.Demarre();
@@ -255,18 +286,59 @@ TEST_F(Changement, UnNouveauNomDeFamilleQuiEchoueLaisseLAncien) {
       });
 }
 
-TEST_F(Changement, UneModificationQuiEchoueAvantLaFicheLaisseLAncienneReference) {
+TEST_F(Changement, UneModificationQuiEchoueLaisseLAncienneReference) {
   EchoueAChaqueEcriture(
-      2, [](Bibliotheque&) {},
+      3, [](Bibliotheque&) {},
       [](Bibliotheque& avec) {
         LitRecette(*avec.module, 2);
         ChangeRecette(*avec.module, 2, {2, "Soupe", "Un texte bien plus long.", "/s.png"});
       },
-      [](const Bibliotheque& avec, std::size_t, Maniere) {
+      [](const Bibliotheque& avec, std::size_t n, Maniere maniere) {
+        const bool moitie = maniere == Maniere::moitieEcrite;
+        EXPECT_EQ(avec.dossier.Lit("GLR3.DAT").size(), n > 1 ? 43U : moitie ? 31U : 19U);
+        EXPECT_EQ(avec.dossier.Lit("GLR4.DAT").size(), n > 2 ? 14U : n == 2 && moitie ? 11U : 8U);
+        EXPECT_EQ(avec.dossier.Lit("GLR3.DAT").substr(8, 11), std::string("Un velouté."_1252));
         const auto fiche = Enregistrement<RecRecette>(avec.dossier, "GLR2.DAT", 2);
         EXPECT_EQ(fiche.posTexte, 9);
         EXPECT_EQ(fiche.lgTexte, 11);
-        EXPECT_EQ(avec.dossier.Lit("GLR3.DAT").substr(8, 11), std::string("Un velouté."_1252));
+        EXPECT_EQ(fiche.posImage, 0);
+        EXPECT_EQ(fiche.lgImage, 0);
+      });
+}
+
+// The one change that overwrites what a record on file refers to.
+TEST_F(Changement, UnTextePlusCourtDontLaFicheNeSEcritPasGardeLAncienneLongueur) {
+  EchoueAChaqueEcriture(
+      2, [](Bibliotheque&) {},
+      [](Bibliotheque& avec) {
+        LitRecette(*avec.module, 2);
+        ChangeRecette(*avec.module, 2, {2, "Soupe", "Bref", {}});
+      },
+      [](const Bibliotheque& avec, std::size_t n, Maniere maniere) {
+        const std::string reste(n > 1                              ? "elouté."_1252
+                                : maniere == Maniere::moitieEcrite ? " velouté."_1252
+                                                                   : "Un velouté."_1252);
+        EXPECT_EQ(avec.dossier.Lit("GLR3.DAT"),
+                  "GLR3.DAT" + std::string("Bref").substr(0, 11 - reste.size()) + reste);
+        const auto fiche = Enregistrement<RecRecette>(avec.dossier, "GLR2.DAT", 2);
+        EXPECT_EQ(fiche.posTexte, 9);
+        EXPECT_EQ(fiche.lgTexte, 11);
+      });
+}
+
+TEST_F(Changement, UneSuppressionDeRecetteQuiEchoueGardeCeQuiEstDejaEcrit) {
+  EchoueAChaqueEcriture(
+      2, [](Bibliotheque& avec) { avec.AjouteRecette(2, "Sole", "texte"); },
+      [](Bibliotheque& avec) { SupprimeRecette(*avec.module, 3); },
+      [](const Bibliotheque& avec, std::size_t n, Maniere maniere) {
+        // The flag and the count are in the first half: what is half written reads as written.
+        const std::size_t ecrites = maniere == Maniere::moitieEcrite ? n : n - 1;
+        auto fiche = Enregistrement<RecRecette>(avec.dossier, "GLR2.DAT", 3);
+        EXPECT_EQ(fiche.actif, ecrites > 0 ? 0 : -1);
+        EXPECT_EQ(Rogne(fiche.nomRecette.brut()), "Sole");
+        EXPECT_EQ(fiche.lgTexte, 5);
+        EXPECT_EQ(Enregistrement<RecRecette>(avec.dossier, "GLR2.DAT", 1).actif,
+                  ecrites > 1 ? 1 : 2);
       });
 }
 

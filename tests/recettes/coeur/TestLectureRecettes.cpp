@@ -5,27 +5,31 @@
 
 #include "data/Texte1252.h"
 #include "doublures/Bibliotheque.h"
+#include "doublures/Entetes.h"
 #include "recettes/LectureRecettes.h"
+#include "recettes/RecettesEssai.h"
 
 namespace gastrelle::essai {
 namespace {
 
 using testing::ElementsAre;
+using testing::IsEmpty;
 
 class Lecture : public testing::Test {
  protected:
-  void PoseCompte(std::string_view nom, std::int16_t compte) const {
-    std::string octets = b.dossier.Lit(nom);
-    octets[0] = static_cast<char>(compte & 0xFF);
-    octets[1] = static_cast<char>(compte >> 8);
-    b.dossier.Ecrit(nom, octets);
+  /// Writes recipe 2 with these references and forgets the journal.
+  void PoseReferences(std::int32_t posTexte, std::int32_t lgTexte, std::int32_t posImage,
+                      std::int32_t lgImage) {
+    auto fiche = Fiche();
+    fiche.posTexte = posTexte;
+    fiche.lgTexte = lgTexte;
+    fiche.posImage = posImage;
+    fiche.lgImage = lgImage;
+    b.module->bufRecette.Ecrire(2, fiche);
+    b.disque.OublieJournal();
   }
-
-  void Supprime(std::int32_t recette) const {
-    std::string octets = b.dossier.Lit("GLR2.stp");
-    octets[static_cast<std::size_t>(recette - 1) * 150] = 0;
-    octets[static_cast<std::size_t>(recette - 1) * 150 + 1] = 0;
-    b.dossier.Ecrit("GLR2.stp", octets);
+  [[nodiscard]] RecRecette Fiche() const {
+    return Enregistrement<RecRecette>(b.dossier, "GLR2.DAT", 2);
   }
 
   Bibliotheque b;
@@ -40,7 +44,7 @@ TEST_F(Lecture, ListeLesFamillesVivantesDansLOrdreDesFiches) {
 
 TEST_F(Lecture, ArreteLesFamillesAuCompteOuAuDernierEnregistrementSansRienReparer) {
   b.AjouteFamille("Poissons");
-  PoseCompte("GLR1.stp", 1);
+  PoseCompte(b, "GLR1.stp", 1);
   b.Demarre();
   EXPECT_EQ(ListeFamilles(*b.module).size(), 1U);
   b.module->bufFamille.nbActifs() = 9;
@@ -55,8 +59,8 @@ TEST_F(Lecture, NeListeQueLesRecettesVivantesDeLaFamilleAvecLeurVraiNumero) {
   const std::int32_t supprimee = b.AjouteRecette(famille, "Raie");
   b.AjouteRecette(2, "Bisque");
   b.AjouteRecette(famille, "Bar");
-  Supprime(supprimee);
-  PoseCompte("GLR2.stp", 4);
+  EffaceRecette(b, supprimee);
+  PoseCompte(b, "GLR2.stp", 4);
   b.Demarre();
   const ListeComptee recettes = RecettesDeFamille(*b.module, famille);
   EXPECT_THAT(recettes.liste, ElementsAre(EntreeListe{"Sole", 3}, EntreeListe{"Bar", 6}));
@@ -67,7 +71,7 @@ TEST_F(Lecture, CompteTropBasLaisseLesDernieresRecettesHorsDeLaListe) {
   for (const char* titre : {"A", "B", "C"}) {
     b.AjouteRecette(2, titre);
   }
-  PoseCompte("GLR2.stp", 1);
+  PoseCompte(b, "GLR2.stp", 1);
   b.Demarre();
   EXPECT_EQ(ToutesRecettes(*b.module).liste.size(), 1U);
   EXPECT_EQ(ToutesRecettes(*b.module).vus, 1);
@@ -75,7 +79,7 @@ TEST_F(Lecture, CompteTropBasLaisseLesDernieresRecettesHorsDeLaListe) {
 
 TEST_F(Lecture, CompteTropHautVaJusquAuDernierEnregistrement) {
   b.AjouteRecette(2, "A");
-  PoseCompte("GLR2.stp", 5);
+  PoseCompte(b, "GLR2.stp", 5);
   b.Demarre();
   EXPECT_EQ(ToutesRecettes(*b.module).vus, 2);
 }
@@ -172,10 +176,40 @@ TEST_F(Lecture, UnFichierDisparuEstDitPuisEchoue) {
 
 TEST_F(Lecture, UneLongueurNegativeEstUnePanne) {
   b.Demarre();
-  RecRecette fiche = Enregistrement<RecRecette>(b.dossier, "GLR2.DAT", 2);
-  fiche.lgTexte = -1;
-  b.module->bufRecette.Ecrire(2, fiche);
+  PoseReferences(9, -1, 0, 0);
   EXPECT_THROW(LitRecette(*b.module, 2), ErreurExecution);
+}
+
+TEST_F(Lecture, UnePositionDeTexteNegativeNeMontreAucunTexte) {
+  b.Demarre();
+  PoseReferences(-5, 11, 0, 0);
+  EXPECT_EQ(LitRecette(*b.module, 2).texte, "");
+  EXPECT_THAT(b.disque.changements(), IsEmpty());
+}
+
+TEST_F(Lecture, UnePositionDImageNegativeEstUnePanneQuiLaisseLaFiche) {
+  b.Demarre();
+  PoseReferences(9, 11, -1, 6);
+  EXPECT_THROW(LitRecette(*b.module, 2), ErreurExecution);
+  EXPECT_THAT(b.disque.changements(), IsEmpty());
+  EXPECT_EQ(Fiche().posImage, -1);
+  EXPECT_EQ(Fiche().lgImage, 6);
+}
+
+TEST_F(Lecture, UneImageSansCheminEstPerdueEtDeliee) {
+  b.Demarre();
+  for (const auto& [posImage, lgImage] : {std::pair{9, 0}, std::pair{5000, 6}}) {
+    SCOPED_TRACE(posImage);
+    PoseReferences(9, 11, posImage, lgImage);
+    const RecetteLue lue = LitRecette(*b.module, 2);
+    EXPECT_EQ(lue.texte, "Un velouté."_1252);
+    EXPECT_EQ(lue.image, "");
+    EXPECT_EQ(lue.imagePerdue, std::string());
+    EXPECT_THAT(b.disque.changements(), ElementsAre("écrit GLR2.DAT 150+150"));
+    EXPECT_EQ(Fiche().posImage, 0);
+    EXPECT_EQ(Fiche().lgImage, 0);
+    EXPECT_EQ(Fiche().lgTexte, 11);
+  }
 }
 
 }  // namespace

@@ -16,6 +16,16 @@ class Ajouter : public FenetreRecettes {
     Clique(Le("Option1(0)"));
     b.disque.OublieJournal();
   }
+  /// What the file dialog does with a chosen path.
+  void ChoisitImage(const std::string& chemin) {
+    Le<QLineEdit>("txtImageAjouter").setText(VersQt(chemin));
+  }
+  void Efface(Reponse reponse) {
+    b.messages.reponses = {reponse};
+    Clique(Le("cmdEffacerAjouter"));
+    EXPECT_THAT(b.messages.questions, SizeIs(1));
+    b.messages.questions.clear();
+  }
   void Valide() { Clique(Le("cmdValideAjouter")); }
 };
 
@@ -42,6 +52,29 @@ TEST_F(Ajouter, LOptionFamilleVideEtDesactiveLaRecette) {
     EXPECT_FALSE(Le(nom).isEnabled()) << nom;
   }
   EXPECT_TRUE(aLeFocus("txtSaisieFamille"));
+}
+
+TEST_F(Ajouter, LOptionFamilleRemetLaFamilleAfficheeEtVideTexteEtImage) {
+  b.AjouteFamille("Desserts");
+  Ouvre(2);
+  Choisit(Le<QComboBox>("ComboFamillesAjouter"), Fr("Potages"));
+  Tape(Le("txtSaisieRecetteAjouter"), "Du texte.");
+  ChoisitImage("/tmp/a.jpg");
+  Clique(Le("Option1(0)"));
+  EXPECT_EQ(Le<QComboBox>("ComboFamillesAjouter").currentText(), "Desserts");
+  EXPECT_EQ(Texte(Le("txtSaisieRecetteAjouter")), "");
+  EXPECT_EQ(Texte(Le("txtImageAjouter")), "");
+}
+
+TEST_F(Ajouter, LeRetourSurLOngletGardeLOptionFamilleEtLuiDonneLeFocus) {
+  OuvreFamille();
+  Tape(Le("txtSaisieFamille"), "Poissons");
+  CliqueOnglet(*fenetre, 1);
+  CliqueOnglet(*fenetre, 2);
+  EXPECT_TRUE(Le<QRadioButton>("Option1(0)").isChecked());
+  EXPECT_EQ(Texte(Le("txtSaisieFamille")), "");
+  EXPECT_TRUE(aLeFocus("txtSaisieFamille"));
+  EXPECT_FALSE(Le("ComboFamillesAjouter").isEnabled());
 }
 
 TEST_F(Ajouter, LOptionRecetteVideEtDesactiveLaFamille) {
@@ -139,8 +172,7 @@ TEST_F(Ajouter, UnTitreDejaDonneEstAccepte) {
 
 TEST_F(Ajouter, UneImageDuDossierSEcritEnFormeCourteEtSurvitAuChangementDOnglet) {
   Ouvre(2);
-  PoseImage("soupe.jpg");
-  Le<QLineEdit>("txtImageAjouter").setText(VersQt(b.module->chemins.De("IMAGE/soupe.jpg")));
+  ChoisitImage(PoseImage("soupe.jpg"));
   CliqueOnglet(*fenetre, 1);
   CliqueOnglet(*fenetre, 2);
   EXPECT_NE(Texte(Le("txtImageAjouter")), "");
@@ -157,7 +189,7 @@ TEST_F(Ajouter, UneImageDUnSousDossierGardeSonCheminEntier) {
   std::filesystem::create_directories(b.dossier.chemin() / "IMAGE/ete");
   b.dossier.Ecrit("IMAGE/ete/a.jpg", "x");
   const std::string chemin = b.module->chemins.De("IMAGE/ete/a.jpg");
-  Le<QLineEdit>("txtImageAjouter").setText(VersQt(chemin));
+  ChoisitImage(chemin);
   Tape(Le("txtSaisieNomRecette"), "Soupe");
   Valide();
   EXPECT_EQ(b.dossier.Lit("GLR4.DAT"), "GLR4.DAT" + chemin);
@@ -165,15 +197,20 @@ TEST_F(Ajouter, UneImageDUnSousDossierGardeSonCheminEntier) {
 
 TEST_F(Ajouter, UnFichierRefuseVideLeChampDesLeChoix) {
   Ouvre(2);
-  Le<QLineEdit>("txtImageAjouter").setText("/tmp/programme.EXE");
-  AttendMessage("Ce fichier n'est pas un fichier image.");
-  EXPECT_EQ(b.messages.bips, 1);
-  EXPECT_EQ(Texte(Le("txtImageAjouter")), "");
+  for (const char* chemin : {"/tmp/programme.EXE", "/tmp/sans", "sans"}) {
+    SCOPED_TRACE(chemin);
+    b.messages.vus.clear();
+    b.messages.bips = 0;
+    ChoisitImage(chemin);
+    AttendMessage("Ce fichier n'est pas un fichier image.");
+    EXPECT_EQ(b.messages.bips, 1);
+    EXPECT_EQ(Texte(Le("txtImageAjouter")), "");
+  }
 }
 
 TEST_F(Ajouter, UnCheminQuiFinitParUnPointNEstRefuseQuALaValidation) {
   Ouvre(2);
-  Le<QLineEdit>("txtImageAjouter").setText("/tmp/image.");
+  ChoisitImage("/tmp/image.");
   EXPECT_THAT(b.messages.vus, IsEmpty());
   Tape(Le("txtSaisieNomRecette"), "Soupe");
   Valide();
@@ -185,8 +222,7 @@ TEST_F(Ajouter, UnCheminQuiFinitParUnPointNEstRefuseQuALaValidation) {
 
 TEST_F(Ajouter, UneImageQueLeVisualisateurNeMontrePasEstDiteEtAcceptee) {
   Ouvre(2);
-  PoseImage("a.png");
-  Le<QLineEdit>("txtImageAjouter").setText(VersQt(b.module->chemins.De("IMAGE/a.png")));
+  ChoisitImage(PoseImage("a.png"));
   Tape(Le("txtSaisieNomRecette"), "Soupe");
   Valide();
   AttendMessage("Ce type de fichier ne sera pas affichable par le visualisateur interne d'images.");
@@ -218,6 +254,20 @@ TEST_F(Ajouter, EffacerGardeToutSurUnNon) {
   EXPECT_TRUE(aLeFocus("txtSaisieFamille"));
 }
 
+TEST_F(Ajouter, EffacerDemandeAussiPourUnTexteSeulOuUneImageSeule) {
+  Ouvre(2);
+  Tape(Le("txtSaisieRecetteAjouter"), "Du texte.");
+  Efface(Reponse::non);
+  EXPECT_EQ(Texte(Le("txtSaisieRecetteAjouter")), "Du texte.");
+  Efface(Reponse::oui);
+  EXPECT_EQ(Texte(Le("txtSaisieRecetteAjouter")), "");
+  ChoisitImage("/tmp/a.jpg");
+  Efface(Reponse::non);
+  EXPECT_EQ(Texte(Le("txtImageAjouter")), "/tmp/a.jpg");
+  Efface(Reponse::oui);
+  EXPECT_EQ(Texte(Le("txtImageAjouter")), "");
+}
+
 TEST_F(Ajouter, EffacerNeDemandeRienQuandToutEstVide) {
   Ouvre(2);
   Clique(Le("cmdEffacerAjouter"));
@@ -244,15 +294,39 @@ TEST_F(Ajouter, UneFamilleChoisieRecoitLaRecetteEtSAffiche) {
   EXPECT_EQ(familles().currentText(), "Potages");
 }
 
-TEST_F(Ajouter, UnFichierDisparuFinitLeProgrammeAvantTouteEcriture) {
+TEST_F(Ajouter, UneFamilleDontLeFichierDisparaitNeSEcritPas) {
+  OuvreFamille();
+  Tape(Le("txtSaisieFamille"), "Poissons");
+  b.dossier.Supprime("GLR1.DAT");
+  Valide();
+  AttendFinFatale(Donnees::GLR1);
+}
+
+TEST_F(Ajouter, UneRecetteDontUnFichierDisparaitNEcritRien) {
+  for (const Donnees disparu : {Donnees::GLR2, Donnees::GLR3, Donnees::GLR4}) {
+    SCOPED_TRACE(Nom(disparu));
+    Ouvre(2);
+    Tape(Le("txtSaisieNomRecette"), "Soupe");
+    Tape(Le("txtSaisieRecetteAjouter"), "Texte.");
+    ChoisitImage("/ailleurs/a.jpg");
+    const std::string octets = b.dossier.Lit(Nom(disparu));
+    b.dossier.Supprime(Nom(disparu));
+    Valide();
+    AttendFinFatale(disparu);
+    fenetre.reset();
+    b.dossier.Ecrit(Nom(disparu), octets);
+    b.messages.vus.clear();
+    b.Redemarre();
+  }
+}
+
+TEST_F(Ajouter, UneRecetteSansTexteNiImageNeCherchePasLesReserves) {
   Ouvre(2);
   Tape(Le("txtSaisieNomRecette"), "Soupe");
-  Tape(Le("txtSaisieRecetteAjouter"), "Texte.");
-  b.dossier.Supprime("GLR3.DAT");
+  b.disque.OublieJournal();
   Valide();
-  AttendFinFatale();
-  EXPECT_THAT(b.messages.vus, SizeIs(2));
-  EXPECT_THAT(b.disque.changements(), IsEmpty());
+  EXPECT_THAT(b.disque.journal().front(), "existe GLR2.DAT");
+  EXPECT_THAT(b.disque.journal()[1], "longueur GLR2.DAT");
 }
 
 TEST_F(Ajouter, UneRecetteFinitLeProgrammeAChaqueEcritureQuiEchoue) {

@@ -58,6 +58,31 @@ TEST_F(Alpha, VaALaRecetteDUneAutreFamille) {
   EXPECT_EQ(Rogne(b.module->bufRecette.courant().nomRecette.brut()), "Soupe");
 }
 
+TEST_F(Alpha, LeCheminVersUneRecetteChercheSesFichiersAvantDeLire) {
+  OuvreAlpha();
+  Selectionne(0);
+  b.disque.OublieJournal();
+  Clique(Le("cmdValideTri"));
+  const std::vector<std::string>& journal = b.disque.journal();
+  ASSERT_GE(journal.size(), 3U);
+  EXPECT_THAT(std::vector(journal.begin(), journal.begin() + 3),
+              ElementsAre("existe GLR2.DAT", "existe GLR3.DAT", "lit GLR2.DAT 450+150"));
+}
+
+TEST_F(Alpha, LaFicheDeTravailGardeLaFicheLueAvantQueLImageSePerde) {
+  b.AjouteRecette(b.AjouteFamille("Desserts"), "Tarte");
+  b.AjouteRecette(2, "Soupe", {}, "/partie.png");
+  Ouvre(5);
+  Selectionne(0);
+  Clique(Le("cmdValideTri"));
+  EXPECT_EQ(recettes().currentText(), "Soupe");
+  EXPECT_EQ(Fiche(4).posImage, 0);
+  EXPECT_EQ(Fiche(4).lgImage, 0);
+  EXPECT_EQ(Rogne(b.module->bufRecette.courant().nomRecette.brut()), "Soupe");
+  EXPECT_EQ(b.module->bufRecette.courant().posImage, 9);
+  EXPECT_EQ(b.module->bufRecette.courant().lgImage, 11);
+}
+
 TEST_F(Alpha, UnDoubleClicFaitDeMeme) {
   OuvreAlpha();
   const QPoint ou = liste().visualRect(liste().model()->index(2, 0)).center();
@@ -107,9 +132,7 @@ TEST_F(Alpha, LOngletDejaChoisiNeFaitRien) {
 
 TEST_F(Alpha, UneFamilleIntrouvableFinitLeProgramme) {
   OuvreAlpha();
-  RecRecette orpheline = Fiche(4);
-  orpheline.idFamille = 99;
-  b.module->bufRecette.Ecrire(4, orpheline);
+  Deplace(4, 99);
   Selectionne(0);
   Clique(Le("cmdValideTri"));
   AttendFinFatale();

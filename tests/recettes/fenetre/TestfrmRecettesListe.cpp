@@ -11,6 +11,27 @@ using testing::SizeIs;
 class Liste : public FenetreRecettes {
  protected:
   QWidget& texte() { return Le("txtRecette"); }
+  /// Two recipes, "Avec" (3) on display with its picture and "Velouté" without one.
+  void OuvreSurUneImage() {
+    b.AjouteRecette(2, "Avec", "Le texte.", "/a.png");
+    PoseImage("a.png");
+    Ouvre();
+    ASSERT_NE(image(), "");
+  }
+  void AttendSansImage() {
+    EXPECT_EQ(image(), "");
+    EXPECT_FALSE(Le("cmdCameraListe").isEnabled());
+  }
+  /// The window's load fails: it ends the program before there is a window.
+  void AttendPasDeFenetre(const std::function<void()>& panne) {
+    b.Demarre();
+    cadre.emplace(*b.module);
+    panne();
+    EXPECT_THROW(fenetre = Cree(), FinDuProgramme);
+    EXPECT_EQ(fenetre, nullptr);
+  }
+  const MessageVu fatal{DepuisUtf8("Erreur fatale. Impossibilité de continuer."), Icone::critique,
+                        "Gastrelle 2005"};
 };
 
 TEST_F(Liste, OuvreSurLaPremiereFamilleEtSaPremiereRecette) {
@@ -98,6 +119,70 @@ TEST_F(Liste, UneImageDisparueEstDiteUneFois) {
   EXPECT_THAT(b.messages.vus, SizeIs(1));
 }
 
+TEST_F(Liste, UneImageQuiPartSousUneRecetteRevueLaisseLePermisDuCadre) {
+  OuvreSurUneImage();
+  b.dossier.Supprime("IMAGE/a.png");
+  Choisit(recettes(), Fr("Avec"));
+  EXPECT_THAT(b.messages.vus, SizeIs(1));
+  AttendSansImage();
+  EXPECT_TRUE(cadre->imagePermise.value());
+}
+
+TEST_F(Liste, UneRecetteSansImageOteCelleDAvant) {
+  OuvreSurUneImage();
+  EXPECT_TRUE(cadre->imagePermise.value());
+  Choisit(recettes(), Fr("Velouté"));
+  AttendSansImage();
+  EXPECT_FALSE(cadre->imagePermise.value());
+}
+
+TEST_F(Liste, UneImageSansCheminEstDiteEtDelieeSansToucherAuPermisDuCadre) {
+  OuvreSurUneImage();
+  RecRecette cassee = Fiche(2);
+  cassee.posImage = 9;
+  b.module->bufRecette.Ecrire(2, cassee);
+  b.disque.OublieJournal();
+  Choisit(recettes(), Fr("Velouté"));
+  AttendMessage("Le fichier image\r\n\r\nn'a pas été trouvé.", Icone::exclamation);
+  EXPECT_THAT(b.disque.changements(), ElementsAre("écrit GLR2.DAT 150+150"));
+  EXPECT_EQ(Fiche(2).posImage, 0);
+  AttendSansImage();
+  EXPECT_TRUE(cadre->imagePermise.value());
+}
+
+TEST_F(Liste, LePointeurEstUneFlechePendantLeMessageDeLImagePerdue) {
+  b.AjouteRecette(2, "Avec", "texte", "/a.png");
+  ExigePointeurNormalAuxMessages();
+  Ouvre();
+  EXPECT_THAT(b.messages.vus, SizeIs(1));
+  EXPECT_FALSE(b.pointeur.sablier);
+}
+
+TEST_F(Liste, ChaqueChoixDonneLeFocusAuTexte) {
+  b.AjouteRecette(b.AjouteFamille("Desserts"), "Tarte");
+  Ouvre();
+  EXPECT_TRUE(aLeFocus("txtRecette"));
+  Choisit(familles(), Fr("Potages"));
+  EXPECT_TRUE(aLeFocus("txtRecette"));
+  Choisit(recettes(), 0);
+  EXPECT_TRUE(aLeFocus("txtRecette"));
+}
+
+TEST_F(Liste, LEntreeSurLOngletDonneLeFocusAuTexte) {
+  Ouvre(4);
+  CliqueOnglet(*fenetre, 1);
+  EXPECT_TRUE(aLeFocus("txtRecette"));
+}
+
+TEST_F(Liste, UneFamilleVideNeDonnePasLeFocusAuTexte) {
+  b.AjouteFamille("Vide");
+  Ouvre();
+  Choisit(familles(), Fr("Vide"));
+  CliqueOnglet(*fenetre, 2);
+  CliqueOnglet(*fenetre, 1);
+  EXPECT_FALSE(aLeFocus("txtRecette"));
+}
+
 TEST_F(Liste, RepareUnCompteTropHautDansLEntete) {
   b.AjouteRecette(2, "Soupe");
   Ouvre();
@@ -135,9 +220,22 @@ TEST_F(Liste, UneLectureQuiEchoueFinitLeProgrammeSansAutreMessage) {
   EXPECT_THAT(b.messages.vus, SizeIs(1));
 }
 
-TEST_F(Liste, LeNombreDeRecettesSeLitAuSingulierPourUne) {
-  Ouvre();
-  EXPECT_EQ(Texte(Trouve(*fenetre, "txtAnnonce(0)")), "1\nrecette");
+TEST_F(Liste, SansFichierDesFamillesLaFenetreNeSOuvrePas) {
+  AttendPasDeFenetre([this] { b.dossier.Supprime("GLR1.DAT"); });
+  EXPECT_THAT(b.messages.vus, ElementsAre(NonTrouve(b, "GLR1.DAT"), fatal));
+}
+
+TEST_F(Liste, DesFamillesIllisiblesNOuvrentPasDeFenetre) {
+  AttendPasDeFenetre([this] { b.disque.EchoueSur("lit GLR1.DAT", Panne::entreeSortie); });
+  EXPECT_THAT(b.messages.vus, ElementsAre(fatal));
+  EXPECT_FALSE(b.pointeur.sablier);
+}
+
+TEST_F(Liste, LeNombreDeRecettesSeLitAuSingulierPourUneDansTousLesOnglets) {
+  OuvreEtParcourt();
+  for (int i = 0; i < 5; ++i) {
+    EXPECT_EQ(Texte(Le(("txtAnnonce(" + std::to_string(i) + ")").c_str())), "1\nrecette") << i;
+  }
 }
 
 TEST_F(Liste, LeNombreDeRecettesSeLitAuPluriel) {
