@@ -3,6 +3,8 @@
 #include <algorithm>
 
 #include <QApplication>
+#include <QClipboard>
+#include <QKeyEvent>
 #include <QTextBlock>
 #include <QTextCursor>
 
@@ -24,6 +26,10 @@ void PeintLectureSeule(QWidget* boite) {
 /// does, and come back as they were. On the screen these stand for them.
 constexpr QChar lfSeul{QChar::LineSeparator};
 constexpr QChar crSeul{u'\x85'};
+
+bool EstFinDeLigne(QChar c) {
+  return c == QChar::ParagraphSeparator || c == lfSeul || c == crSeul;
+}
 
 QString Montrable(std::string_view texte) {
   return VersQt(texte)
@@ -84,12 +90,15 @@ void ZoneTexte::RendLectureSeule() {
 }
 
 void ZoneTexte::Corrige() {
-  if (parCode_ || finSaisie_ <= debutSaisie_) {
+  // What is undone brings back what was right before.
+  if (parCode_ || finSaisie_ <= debutSaisie_ || document()->isRedoAvailable()) {
     return;
   }
   parCode_ = true;
   // A combining accent composes with the letter before it.
-  CorrigePassage(std::max(0, debutSaisie_ - 1),
+  const bool apresUneLettre =
+      debutSaisie_ > 0 && !EstFinDeLigne(document()->characterAt(debutSaisie_ - 1));
+  CorrigePassage(apresUneLettre ? debutSaisie_ - 1 : debutSaisie_,
                  std::min(finSaisie_, document()->characterCount() - 1));
   parCode_ = false;
 }
@@ -144,6 +153,22 @@ std::string LigneTexte::Texte() const {
 void LigneTexte::RendLectureSeule() {
   setReadOnly(true);
   PeintLectureSeule(this);
+}
+
+void LigneTexte::Insere(const QString& texte) {
+  insert(texte.normalized(QString::NormalizationForm_C));
+}
+
+void LigneTexte::paste() {
+  Insere(QApplication::clipboard()->text());
+}
+
+void LigneTexte::keyPressEvent(QKeyEvent* touche) {
+  if (touche->matches(QKeySequence::Paste) && !isReadOnly()) {
+    paste();
+  } else {
+    QLineEdit::keyPressEvent(touche);
+  }
 }
 
 void LigneTexte::Corrige(const QString& saisi) {

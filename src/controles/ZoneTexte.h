@@ -52,6 +52,13 @@ class LigneTexte final : public QLineEdit {
   void RogneTexte() { PoseTexte(std::string(Rogne(Texte()))); }
   void RendLectureSeule();
 
+  /// Puts a text in the place of the selection. It is composed before its length counts.
+  void Insere(const QString& texte);
+  void paste();
+
+ protected:
+  void keyPressEvent(QKeyEvent* touche) override;
+
  private:
   void Corrige(const QString& saisi);
 

@@ -9,7 +9,7 @@ namespace gastrelle {
 namespace {
 
 /// The selected text of a box, its line breaks as the clipboard wants them.
-QString Selection(const QLineEdit& boite) {
+QString Selection(const LigneTexte& boite) {
   return boite.selectedText();
 }
 
@@ -17,8 +17,8 @@ QString Selection(const QPlainTextEdit& boite) {
   return boite.textCursor().selectedText().replace(QChar::ParagraphSeparator, QChar(u'\n'));
 }
 
-void RemplaceSelection(QLineEdit& boite, const QString& texte) {
-  boite.insert(texte);
+void RemplaceSelection(LigneTexte& boite, const QString& texte) {
+  boite.Insere(texte);
 }
 
 void RemplaceSelection(QPlainTextEdit& boite, const QString& texte) {
@@ -54,7 +54,7 @@ void EditeBoite(Edition commande, Boite& boite, Messages& messages) {
 }  // namespace
 
 void Edite(Edition commande, QWidget* controle, Messages& messages) {
-  if (auto* ligne = qobject_cast<QLineEdit*>(controle)) {
+  if (auto* ligne = dynamic_cast<LigneTexte*>(controle)) {
     EditeBoite(commande, *ligne, messages);
   } else if (auto* zone = qobject_cast<QPlainTextEdit*>(controle)) {
     EditeBoite(commande, *zone, messages);

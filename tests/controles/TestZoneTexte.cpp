@@ -1,5 +1,8 @@
 // The text boxes: what they accept, what they show, what they give back.
 
+#include <algorithm>
+#include <array>
+
 #include <QClipboard>
 #include <QTest>
 #include <gtest/gtest.h>
@@ -7,6 +10,8 @@
 #include "controles/Conversion.h"
 #include "controles/ZoneTexte.h"
 #include "doublures/Ecran.h"
+#include "doublures/ServicesEssai.h"
+#include "shell/CommandesEdition.h"
 
 namespace gastrelle::essai {
 namespace {
@@ -114,7 +119,119 @@ TYPED_TEST(Boites, DisentQuandEllesSontVides) {
   EXPECT_FALSE(EstVide(*this->boite));
 }
 
-class Zone : public Boites<ZoneTexte> {};
+class Ligne : public Boites<LigneTexte> {
+ protected:
+  static constexpr std::array deuxLignes{"a\nb", "a\r\nb", "a\tb"};
+
+  void AttendSansSigneDeCommande() {
+    const std::string texte = boite->Texte();
+    EXPECT_TRUE(texte.starts_with('a') && texte.ends_with('b')) << texte;
+    EXPECT_TRUE(std::none_of(texte.begin(), texte.end(), [](char c) { return c > 0 && c < ' '; }))
+        << testing::PrintToString(texte);
+  }
+  void CommandeColler(const QString& texte) {
+    QApplication::clipboard()->setText(texte);
+    MessagesEssai messages;
+    Edite(Edition::coller, boite.get(), messages);
+    EXPECT_EQ(messages.bips, 0);
+  }
+
+  const QString creme = Fr("cre\u0300me");
+};
+
+TEST_F(Ligne, UnCollageNYLaisseNiFinDeLigneNiTabulation) {
+  for (const char* texte : deuxLignes) {
+    Montre(sansLimite);
+    Colle(texte);
+    AttendSansSigneDeCommande();
+  }
+}
+
+TEST_F(Ligne, LaCommandeCollerNYLaisseNiFinDeLigneNiTabulation) {
+  for (const char* texte : deuxLignes) {
+    Montre(sansLimite);
+    CommandeColler(texte);
+    AttendSansSigneDeCommande();
+  }
+}
+
+TEST_F(Ligne, UnAccentDecomposeNeCompteQuAvecSaLettre) {
+  Montre(5);
+  Colle(creme);
+  EXPECT_EQ(boite->Texte(), "crème"_1252);
+  Montre(5);
+  CommandeColler(creme);
+  EXPECT_EQ(boite->Texte(), "crème"_1252);
+  Montre(5);
+  QApplication::clipboard()->setText(creme);
+  QTest::keyClick(boite.get(), Qt::Key_V, Qt::ControlModifier);
+  EXPECT_EQ(boite->Texte(), "crème"_1252);
+}
+
+TEST_F(Ligne, UnAccentDecomposeAuDelaDeLaLimiteSeCoupeAvecSaLettre) {
+  Montre(5);
+  Colle(Fr("crepe\u0301"));
+  EXPECT_EQ(boite->Texte(), "crepé"_1252);
+  Montre(4);
+  Colle(Fr("crepe\u0301"));
+  EXPECT_EQ(boite->Texte(), "crep");
+}
+
+TEST_F(Ligne, CtrlVNeChangeRienEnLectureSeule) {
+  Montre(sansLimite);
+  boite->PoseTexte("soupe");
+  boite->RendLectureSeule();
+  QApplication::clipboard()->setText("x");
+  QTest::keyClick(boite.get(), Qt::Key_V, Qt::ControlModifier);
+  EXPECT_EQ(boite->Texte(), "soupe");
+}
+
+class Zone : public Boites<ZoneTexte> {
+ protected:
+  /// Shows a text of the files, the cursor behind its first `ou` characters.
+  void Pose(std::string_view texte, int ou) {
+    Montre(sansLimite);
+    boite->PoseTexte(texte);
+    QTextCursor curseur = boite->textCursor();
+    curseur.setPosition(ou);
+    boite->setTextCursor(curseur);
+  }
+};
+
+TEST_F(Zone, RendLesFinsDeLigneDUnTexteTellesQuelles) {
+  Pose("a\nb\rc\r\nd\n\re\r\r\n", 0);
+  EXPECT_EQ(boite->Texte(), "a\nb\rc\r\nd\n\re\r\r\n");
+}
+
+TEST_F(Zone, UneSaisieACoteDUneFinDeLigneSeuleNeLaChangePas) {
+  for (const std::string fin : {"\n", "\r", "\r\n"}) {
+    Pose("a" + fin + "b", 1);
+    Tape(*boite, "x");
+    EXPECT_EQ(boite->Texte(), "ax" + fin + "b");
+    Pose("a" + fin + "b", 2);
+    Tape(*boite, "x");
+    EXPECT_EQ(boite->Texte(), "a" + fin + "xb");
+    Tape(*boite, "\n");
+    EXPECT_EQ(boite->Texte(), "a" + fin + "x\r\nb");
+  }
+}
+
+TEST_F(Zone, UneFinDeLigneSeuleEffaceeRevientTelleQuelle) {
+  for (const std::string fin : {"\n", "\r", "\r\n"}) {
+    Pose("a" + fin + "b", 2);
+    boite->selectAll();
+    QTest::keyClick(boite.get(), Qt::Key_Delete);
+    EXPECT_EQ(boite->Texte(), "");
+    boite->undo();
+    EXPECT_EQ(boite->Texte(), "a" + fin + "b");
+  }
+}
+
+TEST_F(Zone, MajusculeEntreeFaitUneFinDeLigneCommeEntree) {
+  Pose("ab", 1);
+  QTest::keyClick(boite.get(), Qt::Key_Return, Qt::ShiftModifier);
+  EXPECT_EQ(boite->Texte(), "a\r\nb");
+}
 
 TEST_F(Zone, RendLesFinsDeLigneEnDeuxCaracteres) {
   Montre(sansLimite);
@@ -157,6 +274,15 @@ TEST_F(Zone, UneCorrectionSAnnuleAvecSaSaisie) {
   EXPECT_EQ(boite->Texte(), "a?");
   boite->undo();
   EXPECT_EQ(boite->Texte(), "a");
+}
+
+TEST_F(Zone, ApresUneAnnulationUneSaisieSeCorrigeEncore) {
+  Montre(4);
+  Tape(*boite, "ab");
+  boite->undo();
+  EXPECT_EQ(boite->Texte(), "");
+  Colle(Fr("日bcdef"));
+  EXPECT_EQ(boite->Texte(), "?bcd");
 }
 
 TEST_F(Zone, LaTabulationChangeDeBoite) {

@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "data/FichierEnregistrements.h"
-#include "doublures/Bibliotheque.h"
+#include "doublures/Pannes.h"
 
 namespace gastrelle::essai {
 namespace {
@@ -40,17 +40,6 @@ class FichierFamilles : public testing::Test {
 
   RecFamille SurDisque(std::size_t numero) const {
     return Enregistrement<RecFamille>(dossier, "GLR1.DAT", numero);
-  }
-
-  template <class F>
-  static Panne PanneDe(F&& appel) {
-    try {
-      appel();
-    } catch (const ErreurExecution& erreur) {
-      return erreur.panne();
-    }
-    ADD_FAILURE() << "aucune panne";
-    return {};
   }
 
   DossierEssai dossier;

@@ -135,6 +135,47 @@ TEST_F(Procedures, ImageExisteDitNonQuandLaRechercheEchoue) {
   EXPECT_FALSE(ImageExiste(module, module.chemins.De("IMAGE/soupe.jpg")));
 }
 
+/// Paths of a program folder whose name the files can hold, or can't.
+class CheminsDuDossier : public testing::TestWithParam<const char*> {
+ protected:
+  [[nodiscard]] std::string Vrai(const char* nom) const {
+    return (b.dossier.chemin() / nom).string();
+  }
+
+  Bibliotheque b{GetParam()};
+  Module1& module = *b.module;
+};
+
+TEST_P(CheminsDuDossier, VontAuSystemeParLeVraiDossier) {
+  EXPECT_EQ(CheminSysteme(module, module.chemins.De("IMAGE/cr\xE8me.jpg")),
+            Vrai("IMAGE/crème.jpg"));
+  EXPECT_EQ(CheminSysteme(module, module.chemins.De("//IMAGE/a.jpg")), Vrai("IMAGE/a.jpg"));
+}
+
+TEST_P(CheminsDuDossier, EnReviennentDansLesTermesDuProgramme) {
+  EXPECT_EQ(CheminProgramme(module, Vrai("IMAGE/crème.jpg")),
+            module.chemins.De("IMAGE/cr\xE8me.jpg"));
+  EXPECT_EQ(CheminProgramme(module, Vrai("IMAGE/寿司.jpg")), module.chemins.De("IMAGE/??.jpg"));
+}
+
+TEST_P(CheminsDuDossier, AilleursRestentCeQuIlsSont) {
+  EXPECT_EQ(CheminSysteme(module, "/ailleurs/cr\xE8me.jpg"), "/ailleurs/crème.jpg");
+  EXPECT_EQ(CheminProgramme(module, "/ailleurs/crème.jpg"), "/ailleurs/cr\xE8me.jpg");
+  const std::string voisin = b.dossier.chemin().string() + "2/a.jpg";
+  EXPECT_EQ(CheminProgramme(module, voisin), DepuisUtf8(voisin));
+}
+
+TEST_P(CheminsDuDossier, YTrouventUneImageQuelsQueSoientLesSeparateurs) {
+  b.Demarre();
+  b.dossier.Ecrit("IMAGE/a.jpg", "");
+  EXPECT_TRUE(ImageExiste(module, module.chemins.De("IMAGE/a.jpg")));
+  EXPECT_TRUE(ImageExiste(module, module.chemins.De("/IMAGE/a.jpg")));
+  EXPECT_FALSE(ImageExiste(module, module.chemins.De("/IMAGE/b.jpg")));
+}
+
+INSTANTIATE_TEST_SUITE_P(Noms, CheminsDuDossier,
+                         testing::Values("gastrelle", "épicerie", "łukasz"));
+
 TEST_F(Procedures, ErreurFataleRendLePointeurBipeParlePuisFinit) {
   b.messages.pendant = [&] {
     EXPECT_FALSE(b.pointeur.sablier);

@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "data/Reserve.h"
-#include "doublures/Bibliotheque.h"
+#include "doublures/Pannes.h"
 #include "recettes/LectureRecettes.h"
 
 namespace gastrelle::essai {
@@ -23,17 +23,6 @@ class ReserveTextes : public testing::Test {
 
   [[nodiscard]] std::string Octets3() const { return dossier.Lit("GLR3.DAT"); }
   ReferenceTexte Reference() { return {position, longueur}; }
-
-  template <class F>
-  static Panne PanneDe(F&& appel) {
-    try {
-      appel();
-    } catch (const ErreurExecution& erreur) {
-      return erreur.panne();
-    }
-    ADD_FAILURE() << "aucune panne";
-    return {};
-  }
 
   DossierEssai dossier;
   DisqueEssai disque{dossier.chemin()};

@@ -72,8 +72,8 @@ void AjouteTexte(const DossierEssai& dossier, const std::string& nom, std::strin
 
 }  // namespace
 
-DossierEssai::DossierEssai() {
-  std::string modele = (std::filesystem::temp_directory_path() / "gastrelle-XXXXXX").string();
+DossierEssai::DossierEssai(const std::string& nom) {
+  std::string modele = (std::filesystem::temp_directory_path() / (nom + "-XXXXXX")).string();
   chemin_ = ::mkdtemp(modele.data());
 }
 
@@ -100,7 +100,8 @@ void DossierEssai::Supprime(std::string_view nom) const {
   std::filesystem::remove_all(chemin_ / nom);
 }
 
-Bibliotheque::Bibliotheque() : module(NouveauModule()) {
+Bibliotheque::Bibliotheque(const std::string& nomDossier)
+    : dossier(nomDossier), module(NouveauModule()) {
   for (std::size_t i = 0; i < static_cast<std::size_t>(Donnees::GLPREF); ++i) {
     const auto fichier = static_cast<Donnees>(i);
     dossier.Ecrit(NomFabrique(fichier), FabriqueVide(fichier));

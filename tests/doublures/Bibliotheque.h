@@ -15,7 +15,8 @@ namespace gastrelle::essai {
 /// A folder that goes with the object.
 class DossierEssai {
  public:
-  DossierEssai();
+  /// `nom`: how the folder's name begins.
+  explicit DossierEssai(const std::string& nom = "gastrelle");
   DossierEssai(const DossierEssai&) = delete;
   DossierEssai& operator=(const DossierEssai&) = delete;
   ~DossierEssai();
@@ -52,7 +53,7 @@ class Bibliotheque {
  public:
   /// Nineteen small factory copies: each catalogue header with its least count, family 2 "Potages",
   /// recipe 2 "Velouté" in it with the text "Un velouté." at position 9, and no other record.
-  Bibliotheque();
+  explicit Bibliotheque(const std::string& nomDossier = "gastrelle");
 
   /// The family's or recipe's record number. These work on the `.DAT` files if they are there, else
   /// on the factory copies; counts in the headers follow. `image` goes into the pool as it stands.

@@ -29,10 +29,11 @@ class ClavierEssai final : public Clavier {
 class CadreVrai : public testing::Test {
  protected:
   CadreVrai() { QSettings(QSettings::UserScope, VersQt(titreApplication)).clear(); }
+  ~CadreVrai() override { EcouteMessages(nullptr); }
 
-  void Ouvre() {
+  void Ouvre(RecPreferences preferences = sansSauvegarde) {
     b.Demarre();
-    b.module->prefs[0].sansCopie = 1;
+    b.module->prefs[0] = preferences;
     OublieFin();
     EcouteMessages(&b.messages);
     cadre = std::make_unique<frmMain>(*b.module, clavier);
@@ -40,6 +41,14 @@ class CadreVrai : public testing::Test {
     QApplication::setActiveWindow(cadre.get());
     QApplication::processEvents();
     b.disque.OublieJournal();
+  }
+
+  /// The same on a library where every window has its catalogue.
+  void OuvreGarni(RecPreferences preferences = sansSauvegarde) {
+    b.GarnitFromages();
+    b.GarnitFiches(Donnees::GLM1);
+    b.GarnitFiches(Donnees::GLT1);
+    Ouvre(preferences);
   }
 
   template <class Controle = QWidget>
@@ -53,9 +62,15 @@ class CadreVrai : public testing::Test {
     return menu != nullptr ? menu->isEnabled() : Entree(nom).isEnabled();
   }
   QWidget& BoutonBarre(const char* cle) { return Le((std::string("tbToolBar.") + cle).c_str()); }
-  /// Chooses an entry as a click would; a disabled one fails the test.
+  /// Chooses an entry as a click would; one that is disabled, or in a disabled menu, fails the
+  /// test.
   void Choisit(const char* nom) {
     ASSERT_TRUE(Entree(nom).isEnabled()) << nom;
+    for (QObject* menu : Entree(nom).associatedObjects()) {
+      for (; qobject_cast<QMenu*>(menu) != nullptr; menu = menu->parent()) {
+        ASSERT_TRUE(static_cast<QMenu*>(menu)->isEnabled()) << nom;
+      }
+    }
     Entree(nom).trigger();
     QApplication::processEvents();
   }
@@ -79,6 +94,8 @@ class CadreVrai : public testing::Test {
   QMdiSubWindow& Sous(const char* nom) { return *static_cast<QMdiSubWindow*>(Le(nom).parent()); }
   QMdiArea& enfants() { return Le<QMdiArea>("MDIClient"); }
   QMdiSubWindow& recettes() { return Sous("frmRecettes"); }
+
+  static constexpr RecPreferences sansSauvegarde{0, 0, 1};
 
   Bibliotheque b;
   ClavierEssai clavier;

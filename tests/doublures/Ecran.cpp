@@ -1,9 +1,13 @@
 #include "doublures/Ecran.h"
 
+#include <utility>
+
 #include <QLabel>
 #include <QLineEdit>
+#include <QPointer>
 #include <QTabBar>
 #include <QTest>
+#include <QTimer>
 
 namespace gastrelle::essai {
 namespace {
@@ -81,6 +85,26 @@ void Remplace(QWidget& boite, const QString& texte) {
   QTest::keyClick(&boite, Qt::Key_A, Qt::ControlModifier);
   QTest::keyClick(&boite, Qt::Key_Delete);
   Tape(boite, texte);
+}
+
+void AvecDialogue(const std::function<void()>& ouvre,
+                  const std::function<void(QDialog&)>& regarde) {
+  bool vu = false;
+  QTimer guet;
+  QObject::connect(&guet, &QTimer::timeout, [&] {
+    const QPointer dialogue = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+    if (dialogue == nullptr || std::exchange(vu, true)) {
+      return;
+    }
+    guet.stop();
+    regarde(*dialogue);
+    if (dialogue != nullptr && dialogue->isVisible()) {
+      dialogue->reject();
+    }
+  });
+  guet.start(0);
+  ouvre();
+  EXPECT_TRUE(vu) << "aucun dialogue";
 }
 
 QString Texte(const QWidget& controle) {

@@ -1,6 +1,7 @@
 // Verbs on the real controls of a window, found by their names.
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <stdexcept>
 #include <string>
@@ -9,6 +10,7 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
+#include <QDialog>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTabBar>
@@ -50,6 +52,10 @@ void Remplace(QWidget& boite, const QString& texte);
 
 /// Text of a box, label or button as the user reads it.
 QString Texte(const QWidget& controle);
+
+/// Runs `ouvre`, which opens a modal dialog, and `regarde` on that dialog while it is on the
+/// screen. One that is still there afterwards is closed; none at all fails the test.
+void AvecDialogue(const std::function<void()>& ouvre, const std::function<void(QDialog&)>& regarde);
 
 /// A text written here in UTF-8.
 QString Fr(std::string_view utf8);

@@ -1,4 +1,4 @@
-// An operation whose writes fail, one after the other.
+// What fails, and how: one call, or an operation whose writes fail one after the other.
 #pragma once
 
 #include <string>
@@ -8,6 +8,18 @@
 #include "doublures/Bibliotheque.h"
 
 namespace gastrelle::essai {
+
+/// Runs a call and tells its failure; none fails the test.
+template <class F>
+Panne PanneDe(F&& appel) {
+  try {
+    appel();
+  } catch (const ErreurExecution& erreur) {
+    return erreur.panne();
+  }
+  ADD_FAILURE() << "aucune panne";
+  return {};
+}
 
 /// Runs an operation again and again on fresh libraries, its n-th write failing, and hands what is
 /// then on file to `verifie(n)`. Every write fails once with nothing done and once half done.

@@ -42,10 +42,14 @@ class MessagesEssai final : public Messages {
 
 class PointeurEssai final : public Pointeur {
  public:
-  void Sablier() override { sablier = true; }
+  void Sablier() override {
+    sablier = true;
+    ++sabliers;
+  }
   void Normal() override { sablier = false; }
 
   bool sablier = false;
+  int sabliers = 0;  ///< how many times the hourglass was set
 };
 
 class HorlogeEssai final : public Horloge {

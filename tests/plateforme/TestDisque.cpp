@@ -6,7 +6,7 @@
 
 #include <gtest/gtest.h>
 
-#include "doublures/Bibliotheque.h"
+#include "doublures/Pannes.h"
 #include "plateforme/Disque.h"
 #include "plateforme/ErreurExecution.h"
 
@@ -15,18 +15,6 @@ namespace {
 
 class DisqueReel : public testing::Test {
  protected:
-  /// Runs `appel` and tells its failure; none fails the test.
-  template <class F>
-  static Panne PanneDe(F&& appel) {
-    try {
-      appel();
-    } catch (const ErreurExecution& erreur) {
-      return erreur.panne();
-    }
-    ADD_FAILURE() << "aucune panne";
-    return {};
-  }
-
   std::string Lit(Fichier& fichier, std::int64_t decalage, std::size_t combien) {
     std::string octets(combien, '#');
     octets.resize(fichier.Lire(decalage, octets));

@@ -12,6 +12,7 @@
 
 #include "controles/Conversion.h"
 #include "controles/Touches.h"
+#include "doublures/AideVue.h"
 #include "doublures/ApplicationEssai.h"
 #include "doublures/Bibliotheque.h"
 #include "doublures/Ecran.h"
@@ -25,15 +26,6 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::SizeIs;
-
-QWidget* FenetreAide() {
-  for (QWidget* fenetre : QApplication::topLevelWidgets()) {
-    if (fenetre->objectName() == QLatin1String("frmAide")) {
-      return fenetre;
-    }
-  }
-  return nullptr;
-}
 
 class AideEnLigne : public testing::Test {
  protected:
@@ -65,7 +57,6 @@ class AideEnLigne : public testing::Test {
   }
 
   static QTextBrowser& Page() { return Dans<QTextBrowser>("txtPage"); }
-  static QString Sujet() { return FichierAide::Sujet(Page().source()); }
 
   void AttendMessage(std::string_view texte) {
     EXPECT_THAT(b.messages.vus,
@@ -81,13 +72,13 @@ TEST_F(AideEnLigne, OuvreUnSujet) {
   aide->Ouvre("recettes-ajouter");
   ASSERT_TRUE(Visible());
   EXPECT_EQ(FenetreAide()->windowTitle(), "Aide de Gastrelle");
-  EXPECT_EQ(Sujet(), "recettes-ajouter");
+  EXPECT_EQ(SujetAide(), "recettes-ajouter");
   EXPECT_TRUE(Page().toPlainText().startsWith("Ajouter une recette"));
 }
 
 TEST_F(AideEnLigne, UnSujetInconnuOuvreLAccueil) {
   aide->Ouvre("jamais-ecrit");
-  EXPECT_EQ(Sujet(), sujetAccueil);
+  EXPECT_EQ(SujetAide(), sujetAccueil);
 }
 
 TEST_F(AideEnLigne, SansFichierDAideRienNeSePasse) {
@@ -142,7 +133,7 @@ TEST_F(AideEnLigne, QuitteFermeLaFenetreEtOuvreLaRouvre) {
   aide->Quitte();
   EXPECT_EQ(FenetreAide(), nullptr);
   aide->Ouvre("cadre");
-  EXPECT_EQ(Sujet(), "cadre");
+  EXPECT_EQ(SujetAide(), "cadre");
 }
 
 TEST_F(AideEnLigne, FermeeParSaCroixElleSeRouvre) {
@@ -151,7 +142,7 @@ TEST_F(AideEnLigne, FermeeParSaCroixElleSeRouvre) {
   EXPECT_FALSE(Visible());
   aide->Ouvre("cadre");
   EXPECT_TRUE(Visible());
-  EXPECT_EQ(Sujet(), "cadre");
+  EXPECT_EQ(SujetAide(), "cadre");
 }
 
 TEST_F(AideEnLigne, EchappeLaFerme) {
@@ -166,7 +157,7 @@ TEST_F(AideEnLigne, F1OuvreLeSujetDuControle) {
   QLineEdit boite;
   boite.setProperty(proprieteSujet, "recettes-modifier");
   QTest::keyClick(&boite, Qt::Key_F1);
-  EXPECT_EQ(Sujet(), "recettes-modifier");
+  EXPECT_EQ(SujetAide(), "recettes-modifier");
 }
 
 TEST_F(AideEnLigne, F1OuvreLeSujetDeCeQuiLEntoure) {
@@ -176,13 +167,13 @@ TEST_F(AideEnLigne, F1OuvreLeSujetDeCeQuiLEntoure) {
   page->setProperty(proprieteSujet, "recettes-alpha");
   auto* boite = new QLineEdit(new QWidget(page));
   QTest::keyClick(boite, Qt::Key_F1);
-  EXPECT_EQ(Sujet(), "recettes-alpha");
+  EXPECT_EQ(SujetAide(), "recettes-alpha");
 }
 
 TEST_F(AideEnLigne, F1SansSujetOuvreLAccueil) {
   QLineEdit boite;
   QTest::keyClick(&boite, Qt::Key_F1);
-  EXPECT_EQ(Sujet(), sujetAccueil);
+  EXPECT_EQ(SujetAide(), sujetAccueil);
 }
 
 TEST_F(AideEnLigne, MajusculeF1NEstPasF1) {
@@ -199,7 +190,7 @@ TEST_F(AideEnLigne, LeBoutonAideDesPreferencesOuvreLeurPage) {
   dialogue.activateWindow();
   ASSERT_TRUE(QTest::qWaitForWindowActive(&dialogue));
   Clique(Trouve(dialogue, "cmdAide"));
-  EXPECT_EQ(Sujet(), "preferences");
+  EXPECT_EQ(SujetAide(), "preferences");
 }
 
 // Beside a modal dialog.
@@ -236,7 +227,7 @@ TEST_F(AideEtDialogue, OuverteDepuisUnDialogueElleSeLit) {
   Pendant(dialogue, [&] {
     QTest::keyClick(&dialogue, Qt::Key_F1);
     CliqueSommaire(Fr("Les préférences"));
-    EXPECT_EQ(Sujet(), "preferences");
+    EXPECT_EQ(SujetAide(), "preferences");
   });
 }
 
@@ -245,10 +236,10 @@ TEST_F(AideEtDialogue, OuverteAvantElleSeLitDesQuOnLaDemandeDuDialogue) {
   QDialog dialogue;
   Pendant(dialogue, [&] {
     CliqueSommaire(Fr("Les préférences"));
-    EXPECT_EQ(Sujet(), "cadre");  // the dialog stops the click
+    EXPECT_EQ(SujetAide(), "cadre");  // the dialog stops the click
     QTest::keyClick(&dialogue, Qt::Key_F1);
     CliqueSommaire(Fr("Les préférences"));
-    EXPECT_EQ(Sujet(), "preferences");
+    EXPECT_EQ(SujetAide(), "preferences");
   });
 }
 
@@ -263,7 +254,7 @@ TEST_F(AideEtDialogue, LeDialogueFermeElleResteEtRedevientLibre) {
   }
   EXPECT_TRUE(Visible());
   CliqueSommaire(Fr("La fenêtre principale"));
-  EXPECT_EQ(Sujet(), "cadre");
+  EXPECT_EQ(SujetAide(), "cadre");
 }
 
 TEST_F(AideEtDialogue, LeDialogueInterieurFermeElleSuitLAutre) {
@@ -273,7 +264,7 @@ TEST_F(AideEtDialogue, LeDialogueInterieurFermeElleSuitLAutre) {
     Pendant(dedans, [&] { QTest::keyClick(&dedans, Qt::Key_F1); });
     EXPECT_EQ(Transitoire(), dehors.windowHandle());
     CliqueSommaire(Fr("La fenêtre principale"));
-    EXPECT_EQ(Sujet(), "cadre");
+    EXPECT_EQ(SujetAide(), "cadre");
   });
 }
 
@@ -289,11 +280,11 @@ TEST_F(AideEnLigne, LesBoutonsReviennentSurLesPas) {
   EXPECT_FALSE(Dans("tbAide.Precedent").isEnabled());
   aide->Ouvre("preferences");
   Clique(Dans("tbAide.Precedent"));
-  EXPECT_EQ(Sujet(), "cadre");
+  EXPECT_EQ(SujetAide(), "cadre");
   Clique(Dans("tbAide.Suivant"));
-  EXPECT_EQ(Sujet(), "preferences");
+  EXPECT_EQ(SujetAide(), "preferences");
   Clique(Dans("tbAide.Sommaire"));
-  EXPECT_EQ(Sujet(), sujetAccueil);
+  EXPECT_EQ(SujetAide(), sujetAccueil);
 }
 
 TEST_F(AideEnLigne, UnLienOuvreSaPage) {
@@ -302,7 +293,7 @@ TEST_F(AideEnLigne, UnLienOuvreSaPage) {
   ASSERT_FALSE(lien.isNull());
   lien.setPosition(lien.selectionStart() + 3);
   QTest::mouseClick(Page().viewport(), Qt::LeftButton, {}, Page().cursorRect(lien).center());
-  EXPECT_EQ(Sujet(), "donnees");
+  EXPECT_EQ(SujetAide(), "donnees");
 }
 
 class RechercheDansLAide : public AideEnLigne {
@@ -348,7 +339,7 @@ TEST_F(RechercheDansLAide, LesSignesSeCherchentTelsQuels) {
 TEST_F(RechercheDansLAide, EntreeOuvreLaPremierePageEtSurligne) {
   Cherche("classement alphabetique");
   QTest::keyClick(&Dans("txtRecherche"), Qt::Key_Return);
-  EXPECT_EQ(Sujet(), "recettes-alpha");
+  EXPECT_EQ(SujetAide(), "recettes-alpha");
   QStringList surlignes;
   for (const QTextEdit::ExtraSelection& marque : Page().extraSelections()) {
     surlignes << marque.cursor.selectedText();

@@ -4,6 +4,7 @@
 #include <QToolButton>
 
 #include "doublures/CadreVrai.h"
+#include "shell/MenusCadre.h"
 
 namespace gastrelle::essai {
 namespace {
@@ -18,7 +19,8 @@ QStringList Lignes(const QMenu& menu, const QString& retrait = {}) {
       lignes << retrait + action->menu()->objectName() + u' ' + action->menu()->title();
       lignes << Lignes(*action->menu(), retrait + u' ');
     } else {
-      lignes << (retrait + action->objectName() + u' ' + action->text()).trimmed();
+      const QString titre = action->isSeparator() ? QString() : u' ' + action->text();
+      lignes << retrait + action->objectName() + titre;
     }
   }
   return lignes;
@@ -39,20 +41,20 @@ TEST_F(MenusDuCadre, Fichier) {
   EXPECT_EQ(Lignes(Le<QMenu>("mnuFile")),
             (QStringList{
                 "mnuFilePrint &Imprimer", "mnuFileBar0", Fr("mnuFilePreferences &Préférences"),
-                "mnuFileBar1", "mnuFileMaintenance &Maintenance", "mnuFileProperties &Nettoyage",
-                "mnuFilePropertiesSupp &Suppression de toutes les recettes",
-                Fr("mnuFilePropertiesReini &Réinitialisation des fichiers \"Recettes\""),
+                "mnuFileBar1", "mnuFileMaintenance &Maintenance", " mnuFileProperties &Nettoyage",
+                " mnuFilePropertiesSupp &Suppression de toutes les recettes",
+                Fr(" mnuFilePropertiesReini &Réinitialisation des fichiers \"Recettes\""),
                 "mnuFileBar2", "mnuFileExport E&xporter", "mnuFileBar3", "mnuFileExit &Quitter"}));
 }
 
 TEST_F(MenusDuCadre, Edition) {
   Ouvre();
-  EXPECT_EQ(
-      Lignes(Le<QMenu>("mnuEdit")),
-      (QStringList{"mnuEditCut &Couper", "mnuEditCopy C&opier", "mnuEditPaste Co&ller",
-                   Fr("mnuEditSelect Sélectionner &tout"), "mnuEditBar0",
-                   "mnuEditRechercher &Rechercher...", "mnuEditBar1", "mnuEditEnvoyer &Envoyer",
-                   "mnuEditEnvoyerTtx &Traitement de texte", "mnuEditEnvoyerNotePad &Bloc-notes"}));
+  EXPECT_EQ(Lignes(Le<QMenu>("mnuEdit")),
+            (QStringList{"mnuEditCut &Couper", "mnuEditCopy C&opier", "mnuEditPaste Co&ller",
+                         Fr("mnuEditSelect Sélectionner &tout"), "mnuEditBar0",
+                         "mnuEditRechercher &Rechercher...", "mnuEditBar1",
+                         "mnuEditEnvoyer &Envoyer", " mnuEditEnvoyerTtx &Traitement de texte",
+                         " mnuEditEnvoyerNotePad &Bloc-notes"}));
 }
 
 TEST_F(MenusDuCadre, Affichage) {
@@ -65,8 +67,8 @@ TEST_F(MenusDuCadre, Affichage) {
           "mnuViewTermesTrucsAstuces &Termes, trucs et astuces", "mnuViewFavoris Mes fav&oris",
           "mnuViewMesNotes Mes &notes", "mnuViewMesCourses Mes &courses", "mnuViewBar1",
           "mnuViewBarreOutils Barre d'outils", "mnuViewBarreStatut Barre de statuts", "mnuViewBar2",
-          "mnuViewImage &Image", Fr("mnuViewImageVisuAssocie Visualisateur a&ssocié"),
-          "mnuViewImageVisuInterne Visualisateur &interne"}));
+          "mnuViewImage &Image", Fr(" mnuViewImageVisuAssocie Visualisateur a&ssocié"),
+          " mnuViewImageVisuInterne Visualisateur &interne"}));
 }
 
 TEST_F(MenusDuCadre, FenetreEtAide) {
@@ -93,6 +95,21 @@ TEST_F(MenusDuCadre, LesClesDAccesDUnMenuNeSeHeurtentPas) {
       cles << cle;
     }
   }
+}
+
+TEST_F(MenusDuCadre, ChaqueBoutonVautSonEntree) {
+  QStringList vus;
+  for (const gastrelle::BoutonBarre& bouton : BoutonsBarre()) {
+    vus << QString::fromLatin1(bouton.cle) + u'=' + QString::fromLatin1(bouton.entree);
+  }
+  EXPECT_EQ(
+      vus, (QStringList{
+               "Recette=mnuViewRecettes", "Fromage=mnuViewFromages", "Menu=mnuViewMenus",
+               "Vin=mnuViewVins", "Millesime=mnuViewMillesimes", "Tool=mnuViewTermesTrucsAstuces",
+               "Favoris=mnuViewFavoris", "MesNotes=mnuViewMesNotes", "MesCourses=mnuViewMesCourses",
+               "Print=mnuFilePrint", "Couper=mnuEditCut", "Copier=mnuEditCopy",
+               "Coller=mnuEditPaste", "Find=mnuEditRechercher", "Ttx=mnuEditEnvoyerTtx",
+               "Notepad=mnuEditEnvoyerNotePad", "Help=mnuHelpContents", "Exit=mnuFileExit"}));
 }
 
 TEST_F(MenusDuCadre, LaBarreADixHuitBoutonsAvecInfobulleEtImage) {

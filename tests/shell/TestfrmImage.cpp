@@ -8,9 +8,11 @@
 #include <gtest/gtest.h>
 
 #include "controles/Conversion.h"
+#include "doublures/AideVue.h"
 #include "doublures/ApplicationEssai.h"
 #include "doublures/Bibliotheque.h"
 #include "doublures/Ecran.h"
+#include "shell/Aide.h"
 #include "shell/frmImage.h"
 
 namespace gastrelle::essai {
@@ -222,6 +224,16 @@ TEST_F(Visualisateur, LeBoutonCopierOuvreLImageParSonAssociation) {
   EXPECT_TRUE(fenetre->isVisible());
 }
 
+TEST_F(Visualisateur, LeBoutonAideOuvreSaPage) {
+  Dessine(300, 200);
+  b.module->fichierAide = DepuisUtf8(FICHIER_AIDE);
+  Aide aide(*b.module);
+  Ouvre();
+  QApplication::setActiveWindow(fenetre.get());
+  Clique(Trouve(*fenetre, "tbToolbar.Aide"));
+  EXPECT_EQ(SujetAide(), "visualisateur");
+}
+
 TEST_F(Visualisateur, SansAssociationLeBoutonCopierLeDit) {
   Dessine(300, 200);
   Ouvre();
@@ -250,6 +262,13 @@ TEST_F(Visualisateur, UnFichierAbsentSeDitLaFenetreCachee) {
   Ouvre("absent.png");
   EXPECT_THAT(b.messages.vus, ElementsAre(NonTrouve("absent.png")));
   EXPECT_FALSE(visible);
+  EXPECT_FALSE(fenetre->isVisible());
+}
+
+TEST_F(Visualisateur, UnNomQuiEnCommenceUnAutreNEstPasCetAutre) {
+  Dessine(300, 200, "PNG", "photo.jpg.png");
+  Ouvre("photo.jpg");
+  EXPECT_THAT(b.messages.vus, ElementsAre(NonTrouve("photo.jpg")));
   EXPECT_FALSE(fenetre->isVisible());
 }
 

@@ -1,9 +1,8 @@
-// The frame: opening and closing windows, what they allow, its own commands, the end of the
-// program.
+// The frame: opening and closing windows, what they allow, its own commands.
 
 #include <QClipboard>
+#include <QContextMenuEvent>
 #include <QTest>
-#include <QTimer>
 
 #include "doublures/CadreVrai.h"
 
@@ -25,13 +24,13 @@ TEST_F(Cadre, SOuvreSurLesRecettesMaximisees) {
   EXPECT_FALSE(b.module->premiereOuverture);
 }
 
-TEST_F(Cadre, LaPreferenceOuvreLesRecettesEnTailleNormale) {
-  b.Demarre();
-  b.module->prefs[0].fenetreNormale = 1;
-  b.module->prefs[0].sansCopie = 1;
-  cadre = std::make_unique<frmMain>(*b.module, clavier);
-  cadre->show();
-  EXPECT_FALSE(recettes().isMaximized());
+TEST_F(Cadre, ToutNombreAutreQueZeroOuvreLesRecettesEnTailleNormale) {
+  for (const std::int16_t nombre : {std::int16_t{1}, std::int16_t{-1}}) {
+    Ouvre({nombre, 0, 1});
+    EXPECT_FALSE(recettes().isMaximized()) << nombre;
+    cadre->close();
+    cadre.reset();
+  }
 }
 
 TEST_F(Cadre, LaListeDesRecettesPermetDImprimerDeCopierEtDeChercher) {
@@ -74,6 +73,14 @@ TEST_F(Cadre, UneImagePresentePermetDeLaVoir) {
   EXPECT_FALSE(Permis("mnuViewImage"));
   CliqueOnglet(Le("frmRecettes"), 1);
   EXPECT_TRUE(Permis("mnuViewImage"));
+}
+
+TEST_F(Cadre, SonActivationRendLaFlecheAuPointeur) {
+  Ouvre();
+  b.pointeur.Sablier();
+  QEvent activation(QEvent::WindowActivate);
+  QApplication::sendEvent(cadre.get(), &activation);
+  EXPECT_FALSE(b.pointeur.sablier);
 }
 
 TEST_F(Cadre, RevenirAuxRecettesActivesNeChangeRienPasMemeLePointeur) {
@@ -224,6 +231,17 @@ TEST_F(Cadre, LesBarresSeCachentEtReviennentAvecLeurCoche) {
   EXPECT_FALSE(Entree("mnuViewBarreStatut").isChecked());
 }
 
+TEST_F(Cadre, AucunMenuContextuelNeMontreNiNeCacheLesBarres) {
+  Ouvre();
+  for (const char* nom : {"tbToolBar", "StatusBar1", "MDIClient"}) {
+    QContextMenuEvent clicDroit(QContextMenuEvent::Mouse, QPoint(5, 5),
+                                Le(nom).mapToGlobal(QPoint(5, 5)));
+    QApplication::sendEvent(&Le(nom), &clicDroit);
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr) << nom;
+  }
+  EXPECT_EQ(cadre->contextMenuPolicy(), Qt::NoContextMenu);
+}
+
 TEST_F(Cadre, LesPanneauxDisentLesVerrousDuClavier) {
   clavier.verrous = Verrous{true, false};
   Ouvre();
@@ -325,69 +343,6 @@ TEST_F(Cadre, SansMarqueLaMaintenanceNeRouvreRien) {
   QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   Choisit("mnuFilePropertiesReini");
   EXPECT_THAT(enfants().subWindowList(), IsEmpty());
-}
-
-TEST_F(Cadre, LaFermetureRangeLaGeometrieEtRecritLesRayons) {
-  Ouvre();
-  b.module->texteRayon[14] = "Sel";
-  cadre->setGeometry(30, 45, 700, 500);
-  const QPoint place = cadre->pos();
-  cadre->close();
-  const QSettings reglages(QSettings::UserScope, "Gastrelle 2005");
-  EXPECT_EQ(reglages.value("Settings/MainLeft").toString(), QString::number(place.x() * 15));
-  EXPECT_EQ(reglages.value("Settings/MainTop").toString(), QString::number(place.y() * 15));
-  EXPECT_EQ(reglages.value("Settings/MainWidth").toString(), "10500");
-  EXPECT_EQ(reglages.value("Settings/MainHeight").toString(), "7500");
-  EXPECT_FALSE(cadre->isVisible());
-  EXPECT_EQ(b.dossier.Lit("GLMCN.DAT"), "GLMCN.DATSel");
-  EXPECT_EQ(b.module->contexteActif, 0);
-}
-
-TEST_F(Cadre, FermeReduitIlGardeLaGeometrieDAvant) {
-  QSettings(QSettings::UserScope, "Gastrelle 2005").setValue("Settings/MainWidth", "10500");
-  Ouvre();
-  EXPECT_EQ(cadre->width(), 700);
-  cadre->showMinimized();
-  cadre->close();
-  const QSettings reglages(QSettings::UserScope, "Gastrelle 2005");
-  EXPECT_EQ(reglages.value("Settings/MainWidth").toString(), "10500");
-  EXPECT_FALSE(reglages.contains("Settings/MainLeft"));
-}
-
-TEST_F(Cadre, LaPremiereOuvertureAHuitCentsSurSixCents) {
-  Ouvre();
-  EXPECT_EQ(cadre->size(), QSize(800, 600));
-}
-
-TEST_F(Cadre, DesReglagesIllisiblesPrennentLeurValeurParDefaut) {
-  QSettings reglages(QSettings::UserScope, "Gastrelle 2005");
-  reglages.setValue("Settings/MainWidth", "large");
-  reglages.setValue("Settings/MainHeight", "");
-  reglages.sync();
-  Ouvre();
-  EXPECT_EQ(cadre->size(), QSize(800, 600));
-}
-
-TEST_F(Cadre, LaCopieDeSecuriteSuitLaPreference) {
-  Ouvre();
-  cadre->close();
-  EXPECT_FALSE(b.dossier.A("SAUVE"));
-}
-
-TEST_F(Cadre, LaCopieDeSecuriteEstLaDerniereChose) {
-  Ouvre();
-  b.module->prefs[0].sansCopie = 0;
-  QTimer presse;
-  QObject::connect(&presse, &QTimer::timeout, [] {
-    const QWidget* dialogue = QApplication::activeModalWidget();
-    auto* ok = dialogue == nullptr ? nullptr : dialogue->findChild<QPushButton*>("cmdOk");
-    if (ok != nullptr && ok->isVisible()) {
-      QTest::mouseClick(ok, Qt::LeftButton);
-    }
-  });
-  presse.start(1);
-  cadre->close();
-  EXPECT_EQ(b.dossier.Lit("SAUVE/GLR3.DAT"), b.dossier.Lit("GLR3.DAT"));
 }
 
 }  // namespace

@@ -77,6 +77,24 @@ TEST_F(DialogueSauvegarde, LaCopieReussieSeDitEtOkALeFocus) {
   EXPECT_FALSE(b.pointeur.sablier);
 }
 
+TEST_F(DialogueSauvegarde, LeSablierDureAutantQueLaCopie) {
+  b.pointeur.Normal();
+  int appels = 0;
+  b.disque.pendant = [&](const std::string&) {
+    ++appels;
+    EXPECT_TRUE(b.pointeur.sablier) << b.disque.journal().back();
+  };
+  MontreEtAttend();
+  EXPECT_GE(appels, 6);
+  EXPECT_FALSE(b.pointeur.sablier);
+}
+
+TEST_F(DialogueSauvegarde, UneCopieManqueeRendAussiLePointeur) {
+  b.disque.EchoueSur("copie GLR2.DAT", Panne::disquePlein);
+  MontreEtAttend();
+  EXPECT_FALSE(b.pointeur.sablier);
+}
+
 TEST_F(DialogueSauvegarde, OkFermeLeDialogue) {
   MontreEtAttend();
   Clique(ok());

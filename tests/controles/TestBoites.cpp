@@ -1,0 +1,190 @@
+// The message boxes and the pointer of the real screen.
+
+#include <array>
+#include <optional>
+
+#include <QMessageBox>
+#include <QTest>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "controles/Boites.h"
+#include "data/Texte1252.h"
+#include "doublures/Ecran.h"
+
+namespace gastrelle::essai {
+namespace {
+
+using testing::UnorderedElementsAre;
+
+class MessagesAffiches : public testing::Test {
+ protected:
+  static QMessageBox& Boite(QDialog& dialogue) { return dynamic_cast<QMessageBox&>(dialogue); }
+
+  static QStringList Titres(const QMessageBox& boite) {
+    QStringList titres;
+    for (const QAbstractButton* bouton : boite.buttons()) {
+      titres << bouton->text();
+    }
+    return titres;
+  }
+
+  static void Presse(QDialog& boite, const QString& titre) {
+    for (QAbstractButton* bouton : Boite(boite).buttons()) {
+      if (bouton->text() == titre) {
+        Clique(*bouton);
+        return;
+      }
+    }
+    ADD_FAILURE() << "pas de bouton " << titre.toStdString();
+  }
+
+  /// The answer to a question, which `repond` gives on its box.
+  Reponse Demande(Boutons boutons, const std::function<void(QDialog&)>& repond) {
+    std::optional<Reponse> reponse;
+    AvecDialogue([&] { reponse = messages.Demande("Effacer ?", boutons); }, repond);
+    return *reponse;
+  }
+
+  static void Touche(QDialog& boite, Qt::Key touche) { QTest::keyClick(&boite, touche); }
+
+  MessagesEcran messages;
+};
+
+TEST_F(MessagesAffiches, ChaqueIconeEstLaSienne) {
+  constexpr std::array<std::pair<Icone, QMessageBox::Icon>, 4> icones{{
+      {Icone::aucune, QMessageBox::NoIcon},
+      {Icone::information, QMessageBox::Information},
+      {Icone::exclamation, QMessageBox::Warning},
+      {Icone::critique, QMessageBox::Critical},
+  }};
+  for (const auto& [icone, attendue] : icones) {
+    AvecDialogue([&] { messages.Informe("Terminé"_1252, icone); },
+                 [&](QDialog& boite) { EXPECT_EQ(Boite(boite).icon(), attendue); });
+  }
+}
+
+TEST_F(MessagesAffiches, UneInformationALeTitreDeLApplicationEtUnBoutonOk) {
+  AvecDialogue([&] { messages.Informe("Terminé"_1252, Icone::information); },
+               [](QDialog& boite) {
+                 EXPECT_EQ(boite.windowTitle(), "Gastrelle 2005");
+                 EXPECT_EQ(Boite(boite).text(), Fr("Terminé"));
+                 EXPECT_EQ(Titres(Boite(boite)), QStringList{"OK"});
+               });
+}
+
+TEST_F(MessagesAffiches, UneInformationPeutAvoirSonTitre) {
+  AvecDialogue(
+      [&] {
+        messages.Informe("Terminé"_1252, Icone::information, "Gastrelle 2005 - Préférences"_1252);
+      },
+      [](QDialog& boite) { EXPECT_EQ(boite.windowTitle(), Fr("Gastrelle 2005 - Préférences")); });
+}
+
+TEST_F(MessagesAffiches, UneFinDeLigneEnDeuxCaracteresEnFaitUne) {
+  AvecDialogue(
+      [&] { messages.Informe("Fichier\r\n/a.png\r\nnon trouvé."_1252, Icone::critique); },
+      [](QDialog& boite) { EXPECT_EQ(Boite(boite).text(), Fr("Fichier\n/a.png\nnon trouvé.")); });
+}
+
+TEST_F(MessagesAffiches, UnTexteSeLitTelQuel) {
+  AvecDialogue([&] { messages.Informe("<b>gras</b>", Icone::critique); },
+               [](QDialog& boite) {
+                 EXPECT_EQ(Boite(boite).textFormat(), Qt::PlainText);
+                 EXPECT_EQ(Boite(boite).text(), "<b>gras</b>");
+               });
+}
+
+TEST_F(MessagesAffiches, EntreeEtEchappeFermentUneInformation) {
+  for (const Qt::Key touche : {Qt::Key_Return, Qt::Key_Escape}) {
+    AvecDialogue([&] { messages.Informe("x", Icone::information); },
+                 [&](QDialog& boite) {
+                   Touche(boite, touche);
+                   EXPECT_FALSE(boite.isVisible()) << touche;
+                 });
+  }
+}
+
+TEST_F(MessagesAffiches, UneBoiteAppartientALaFenetreActive) {
+  QWidget fenetre;
+  fenetre.show();
+  const auto verifie = [&](QDialog& boite) { EXPECT_EQ(boite.parentWidget(), &fenetre); };
+  QApplication::setActiveWindow(&fenetre);
+  AvecDialogue([&] { messages.Informe("x", Icone::information); }, verifie);
+  QApplication::setActiveWindow(&fenetre);
+  AvecDialogue([&] { messages.Demande("x"); }, verifie);
+}
+
+TEST_F(MessagesAffiches, UneQuestionALeTitreEtLExclamation) {
+  Demande(Boutons::ouiNon, [](QDialog& boite) {
+    EXPECT_EQ(boite.windowTitle(), "Gastrelle 2005");
+    EXPECT_EQ(Boite(boite).icon(), QMessageBox::Warning);
+    EXPECT_EQ(Boite(boite).textFormat(), Qt::PlainText);
+    EXPECT_EQ(Boite(boite).text(), "Effacer ?");
+  });
+}
+
+TEST_F(MessagesAffiches, UneQuestionSansAnnulerAOuiEtNonNonParDefaut) {
+  Demande(Boutons::ouiNon, [](QDialog& boite) {
+    EXPECT_THAT(Titres(Boite(boite)), UnorderedElementsAre("Oui", "Non"));
+    EXPECT_EQ(Boite(boite).defaultButton()->text(), "Non");
+  });
+}
+
+TEST_F(MessagesAffiches, UneQuestionAvecAnnulerEnATroisNonParDefaut) {
+  Demande(Boutons::ouiNonAnnuler, [](QDialog& boite) {
+    EXPECT_THAT(Titres(Boite(boite)), UnorderedElementsAre("Oui", "Non", "Annuler"));
+    EXPECT_EQ(Boite(boite).defaultButton()->text(), "Non");
+  });
+}
+
+TEST_F(MessagesAffiches, EntreeRepondNon) {
+  for (const Boutons boutons : {Boutons::ouiNon, Boutons::ouiNonAnnuler}) {
+    EXPECT_EQ(Demande(boutons, [](QDialog& boite) { Touche(boite, Qt::Key_Return); }),
+              Reponse::non);
+  }
+}
+
+TEST_F(MessagesAffiches, EchappeRepondNonOuAnnule) {
+  const auto echappe = [](QDialog& boite) { Touche(boite, Qt::Key_Escape); };
+  EXPECT_EQ(Demande(Boutons::ouiNon, echappe), Reponse::non);
+  EXPECT_EQ(Demande(Boutons::ouiNonAnnuler, echappe), Reponse::annuler);
+}
+
+TEST_F(MessagesAffiches, LaCroixRepondCommeEchappe) {
+  const auto ferme = [](QDialog& boite) { boite.close(); };
+  EXPECT_EQ(Demande(Boutons::ouiNon, ferme), Reponse::non);
+  EXPECT_EQ(Demande(Boutons::ouiNonAnnuler, ferme), Reponse::annuler);
+}
+
+TEST_F(MessagesAffiches, ChaqueBoutonRepondCeQuIlDit) {
+  const auto presse = [](const char* titre) {
+    return [titre](QDialog& boite) { Presse(boite, titre); };
+  };
+  EXPECT_EQ(Demande(Boutons::ouiNon, presse("Oui")), Reponse::oui);
+  EXPECT_EQ(Demande(Boutons::ouiNon, presse("Non")), Reponse::non);
+  EXPECT_EQ(Demande(Boutons::ouiNonAnnuler, presse("Oui")), Reponse::oui);
+  EXPECT_EQ(Demande(Boutons::ouiNonAnnuler, presse("Non")), Reponse::non);
+  EXPECT_EQ(Demande(Boutons::ouiNonAnnuler, presse("Annuler")), Reponse::annuler);
+}
+
+TEST(PointeurAffiche, LeSablierPoseDeuxFoisSEnleveDUnCoup) {
+  PointeurEcran pointeur;
+  pointeur.Sablier();
+  pointeur.Sablier();
+  ASSERT_NE(QApplication::overrideCursor(), nullptr);
+  EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
+  pointeur.Normal();
+  EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+}
+
+TEST(PointeurAffiche, NormalSansSablierNEnleveRien) {
+  QApplication::setOverrideCursor(Qt::CrossCursor);
+  PointeurEcran pointeur;
+  pointeur.Normal();
+  EXPECT_NE(QApplication::overrideCursor(), nullptr);
+  QApplication::restoreOverrideCursor();
+}
+
+}  // namespace
+}  // namespace gastrelle::essai

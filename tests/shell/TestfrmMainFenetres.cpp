@@ -1,0 +1,201 @@
+// The frame's child windows: the buttons that open them, their sizes beside one another, their
+// layout.
+
+#include <QClipboard>
+#include <QPlainTextEdit>
+#include <QTest>
+
+#include "doublures/CadreVrai.h"
+
+namespace gastrelle::essai {
+namespace {
+
+struct CasFenetre {
+  const char* bouton;
+  const char* entree;
+  const char* nom;
+  std::int16_t contexte;
+};
+
+class FenetresDuCadre : public CadreVrai, public testing::WithParamInterface<CasFenetre> {
+ protected:
+  /// The frame with no child window open.
+  void OuvreVide() {
+    OuvreGarni();
+    Choisit("mnuWindowClose");
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    ASSERT_TRUE(enfants().subWindowList().isEmpty());
+  }
+  void AttendSaFenetre() {
+    EXPECT_EQ(b.module->contexteActif, GetParam().contexte);
+    EXPECT_EQ(enfants().activeSubWindow(), &Sous(GetParam().nom));
+    EXPECT_TRUE(Sous(GetParam().nom).isVisible());
+    EXPECT_TRUE(Entree(GetParam().entree).isChecked());
+    EXPECT_FALSE(b.pointeur.sablier);
+  }
+};
+
+TEST_P(FenetresDuCadre, SOuvrentParLeurEntree) {
+  OuvreVide();
+  Choisit(GetParam().entree);
+  AttendSaFenetre();
+}
+
+TEST_P(FenetresDuCadre, SOuvrentParLeurBouton) {
+  OuvreVide();
+  Clique(BoutonBarre(GetParam().bouton));
+  QApplication::processEvents();
+  AttendSaFenetre();
+}
+
+TEST_P(FenetresDuCadre, SeulesSOuvrentMaximisees) {
+  OuvreVide();
+  Choisit(GetParam().entree);
+  EXPECT_TRUE(Sous(GetParam().nom).isMaximized());
+}
+
+TEST_P(FenetresDuCadre, SeulesSOuvrentEnTailleNormaleSiLaPreferenceLeVeut) {
+  OuvreVide();
+  b.module->prefs[0].fenetreNormale = -1;
+  Choisit(GetParam().entree);
+  EXPECT_FALSE(Sous(GetParam().nom).isMaximized());
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Vues, FenetresDuCadre,
+    testing::Values(CasFenetre{"Recette", "mnuViewRecettes", "frmRecettes", 11},
+                    CasFenetre{"Fromage", "mnuViewFromages", "frmFromages", 21},
+                    CasFenetre{"Menu", "mnuViewMenus", "frmMenus", 31},
+                    CasFenetre{"Tool", "mnuViewTermesTrucsAstuces", "frmTrucs", 61}),
+    [](const auto& cas) { return std::string(cas.param.nom); });
+
+class PlusieursFenetres : public CadreVrai {
+ protected:
+  /// The recipes and the menus, at normal size.
+  void OuvreDeux() {
+    OuvreGarni();
+    recettes().showNormal();
+    Choisit("mnuViewMenus");
+    menus().showNormal();
+    QApplication::processEvents();
+  }
+  QMdiSubWindow& menus() { return Sous("frmMenus"); }
+};
+
+TEST_F(PlusieursFenetres, UneSecondeNeChangePasLaTailleDeLaPremiere) {
+  OuvreGarni();
+  recettes().showNormal();
+  recettes().setGeometry(10, 20, 640, 420);
+  Choisit("mnuViewMenus");
+  EXPECT_FALSE(recettes().isMaximized());
+  EXPECT_EQ(recettes().geometry(), QRect(10, 20, 640, 420));
+  EXPECT_FALSE(menus().isMaximized());
+}
+
+TEST_F(PlusieursFenetres, RevenirALaPremiereLuiGardeSaTaille) {
+  OuvreDeux();
+  recettes().setGeometry(10, 20, 640, 420);
+  Choisit("mnuViewRecettes");
+  EXPECT_EQ(enfants().activeSubWindow(), &recettes());
+  EXPECT_EQ(recettes().geometry(), QRect(10, 20, 640, 420));
+  EXPECT_FALSE(menus().isMaximized());
+}
+
+TEST_F(PlusieursFenetres, LaMosaiqueHorizontaleLesMetLUneSurLAutre) {
+  OuvreDeux();
+  Choisit("mnuWindowTileHorizontal");
+  EXPECT_EQ(recettes().x(), menus().x());
+  EXPECT_EQ(recettes().geometry().bottom() + 1, menus().y());
+}
+
+TEST_F(PlusieursFenetres, LaMosaiqueVerticaleLesMetCoteACote) {
+  OuvreDeux();
+  Choisit("mnuWindowTileVertical");
+  EXPECT_EQ(recettes().y(), menus().y());
+  EXPECT_EQ(recettes().geometry().right() + 1, menus().x());
+}
+
+TEST_F(PlusieursFenetres, LaCascadeLesDecale) {
+  OuvreDeux();
+  Choisit("mnuWindowTileHorizontal");
+  Choisit("mnuWindowCascade");
+  const QPoint decalage = menus().pos() - recettes().pos();
+  EXPECT_NE(decalage.x(), 0);
+  EXPECT_EQ(decalage.x() > 0, decalage.y() > 0);
+}
+
+TEST_F(PlusieursFenetres, ReorganiserRangeLesIconesEnBas) {
+  OuvreDeux();
+  menus().showMinimized();
+  QApplication::processEvents();
+  menus().move(100, 100);
+  Choisit("mnuWindowArrangeIcons");
+  EXPECT_TRUE(menus().isMinimized());
+  EXPECT_EQ(menus().x(), 0);
+  EXPECT_EQ(menus().geometry().bottom() + 1, enfants().viewport()->height());
+}
+
+// The edit commands with nothing to work on, and on several lines.
+
+class EditionDuCadre : public CadreVrai {
+ protected:
+  /// The four commands, whatever the tab on display allows.
+  void AttendQuatreBips() {
+    QApplication::clipboard()->setText("x");
+    int attendus = 0;
+    for (const char* nom : {"mnuEditCut", "mnuEditCopy", "mnuEditPaste", "mnuEditSelect"}) {
+      Entree(nom).setEnabled(true);
+      Choisit(nom);
+      EXPECT_EQ(b.messages.bips, ++attendus) << nom;
+    }
+    EXPECT_EQ(QApplication::clipboard()->text(), "x");
+  }
+};
+
+TEST_F(EditionDuCadre, SansFenetreLesQuatreCommandesBipent) {
+  Ouvre();
+  Choisit("mnuWindowClose");
+  QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  AttendQuatreBips();
+}
+
+TEST_F(EditionDuCadre, SansControleEnUsageLesQuatreCommandesBipent) {
+  Ouvre();
+  ASSERT_NE(Le("frmRecettes").focusWidget(), nullptr);
+  Le("frmRecettes").focusWidget()->clearFocus();
+  ASSERT_EQ(Le("frmRecettes").focusWidget(), nullptr);
+  AttendQuatreBips();
+}
+
+TEST_F(EditionDuCadre, PlusieursLignesVontAuPressePapiersEnFinsDeLigneSimples) {
+  Ouvre();
+  CliqueOnglet(Le("frmRecettes"), 2);
+  QWidget& boite = Le("txtSaisieRecetteAjouter");
+  boite.setFocus();
+  Tape(boite, "a\nb");
+  for (const char* nom : {"mnuEditCopy", "mnuEditCut"}) {
+    QApplication::clipboard()->clear();
+    Entree("mnuEditSelect").setEnabled(true);
+    Choisit("mnuEditSelect");
+    Choisit(nom);
+    EXPECT_EQ(QApplication::clipboard()->text(), "a\nb") << nom;
+  }
+  EXPECT_EQ(Texte(boite), "");
+}
+
+TEST_F(EditionDuCadre, UnCollageDePlusieursLignesSeRangeEnDeuxCaracteres) {
+  Ouvre();
+  CliqueOnglet(Le("frmRecettes"), 2);
+  auto& boite = Le<QPlainTextEdit>("txtSaisieRecetteAjouter");
+  boite.setFocus();
+  for (const char* texte : {"a\nb", "a\r\nb"}) {
+    QApplication::clipboard()->setText(texte);
+    boite.clear();
+    Choisit("mnuEditPaste");
+    EXPECT_EQ(boite.document()->blockCount(), 2);
+    EXPECT_EQ(Texte(boite), "a\nb");
+  }
+}
+
+}  // namespace
+}  // namespace gastrelle::essai
