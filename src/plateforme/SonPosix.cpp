@@ -28,8 +28,12 @@ struct Canberra {
 }  // namespace
 
 SonSysteme::~SonSysteme() {
-  if (contexte_ != nullptr) {
-    Canberra::Prend().detruit(static_cast<ca_context*>(contexte_));
+  if (contexte_ == nullptr) {
+    return;  // no sound was played: the library isn't even open
+  }
+  const Canberra& canberra = Canberra::Prend();
+  if (canberra.detruit != nullptr) {
+    canberra.detruit(static_cast<ca_context*>(contexte_));
   }
 }
 
