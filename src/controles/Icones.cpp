@@ -12,6 +12,7 @@ namespace gastrelle {
 namespace {
 
 constexpr std::array tailles{16, 24, 32, 48, 64, 96, 192};
+static_assert(tailles.back() == plusGrandeIcone);
 
 QString Fichier(const QString& nom, int taille) {
   return QStringLiteral(":/icones/%1-%2.png").arg(nom).arg(taille);
@@ -21,14 +22,14 @@ QString Fichier(const QString& nom, int taille) {
 /// a toolkit icon would unpack every size of every button at the start.
 class MoteurIcone final : public QIconEngine {
  public:
-  explicit MoteurIcone(QString nom) : nom_(std::move(nom)) {}
+  MoteurIcone(QString nom, int auPlus) : nom_(std::move(nom)), auPlus_(auPlus) {}
 
   [[nodiscard]] QIconEngine* clone() const override { return new MoteurIcone(*this); }
   [[nodiscard]] QString key() const override { return QStringLiteral("MoteurIcone"); }
   QList<QSize> availableSizes(QIcon::Mode /*mode*/, QIcon::State /*etat*/) override {
     QList<QSize> presentes;
     for (const int taille : tailles) {
-      if (QFile::exists(Fichier(nom_, taille))) {
+      if (taille <= auPlus_ && QFile::exists(Fichier(nom_, taille))) {
         presentes.append(QSize(taille, taille));
       }
     }
@@ -69,17 +70,18 @@ class MoteurIcone final : public QIconEngine {
   }
 
   QString nom_;
+  int auPlus_;  ///< largest of the sizes that are offered
   QList<int> lues_;
   QIcon icone_;
 };
 
 }  // namespace
 
-QIcon IconeDe(const QString& nom) {
+QIcon IconeDe(const QString& nom, int auPlus) {
   const bool presente = std::any_of(tailles.begin(), tailles.end(), [&](int taille) {
     return QFile::exists(Fichier(nom, taille));
   });
-  return presente ? QIcon(new MoteurIcone(nom)) : QIcon();
+  return presente ? QIcon(new MoteurIcone(nom, auPlus)) : QIcon();
 }
 
 }  // namespace gastrelle

@@ -33,7 +33,7 @@ frmAide::frmAide(const FichierAide& fichier)
       txtPage_(new QTextBrowser(this)) {
   setObjectName(QStringLiteral("frmAide"));
   setWindowTitle(QStringLiteral("Aide de Gastrelle"));
-  setWindowIcon(IconeDe(QStringLiteral("aide")));
+  setWindowIcon(IconeDe(QStringLiteral("aide"), plusGrandeIconeFenetre));
   setAttribute(Qt::WA_QuitOnClose, false);
   setProperty(proprieteSujet, QStringLiteral("aide"));
   txtPage_->setObjectName(QStringLiteral("txtPage"));

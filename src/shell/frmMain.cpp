@@ -70,7 +70,7 @@ frmMain::frmMain(Module1& module, Clavier& clavier)
       aide_(module) {
   setObjectName(QStringLiteral("frmMain"));
   setWindowTitle(VersQt(titreApplication));
-  setWindowIcon(IconeDe(QStringLiteral("gastrelle")));
+  setWindowIcon(IconeDe(QStringLiteral("gastrelle"), plusGrandeIconeFenetre));
   setCentralWidget(enfants_);
   setProperty(proprieteSujet, QStringLiteral("cadre"));
   // The bars come and go through their entries, whose check marks tell what is shown.
