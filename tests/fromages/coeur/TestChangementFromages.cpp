@@ -19,6 +19,22 @@ using testing::Not;
 // Cheese 124 begins at byte 123 * 208 = 25584 of its file.
 class ChangementDesFromages : public testing::Test {
  protected:
+  /// The change of a cheese with a note of ten bytes, each of its two writes failing in turn.
+  template <class Verifie>
+  static void ChangeAbondanceEnEchouant(std::string_view notes, Verifie verifie) {
+    EchoueAChaqueEcriture(
+        2,
+        [](Bibliotheque& avec) {
+          avec.GarnitFromages();
+          avec.AjouteFromage(Fromage("Abondance"), "Dix octets");
+        },
+        [notes](Bibliotheque& avec) {
+          LitFromage(*avec.module, 124);
+          ChangeFromage(*avec.module, 124, {"Banon", {}, 0, 0, 0, std::string(notes)});
+        },
+        verifie);
+  }
+
   ChangementDesFromages() { b.GarnitFromages(); }
 
   /// Starts with "Abondance" (124) on display; its notes are the ten bytes behind the signature.
@@ -179,17 +195,8 @@ TEST_F(ChangementDesFromages, UnAjoutQuiEchoueNeLaisseJamaisDeReferenceSansNotes
 }
 
 TEST_F(ChangementDesFromages, UnChangementQuiEchoueAvantLaFicheLaisseLAncienneReference) {
-  EchoueAChaqueEcriture(
-      2,
-      [](Bibliotheque& avec) {
-        avec.GarnitFromages();
-        avec.AjouteFromage(Fromage("Abondance"), "Dix octets");
-      },
-      [](Bibliotheque& avec) {
-        LitFromage(*avec.module, 124);
-        ChangeFromage(*avec.module, 124, {"Banon", {}, 0, 0, 0, "Bien plus long que dix"});
-      },
-      [](const Bibliotheque& avec, std::size_t n, Maniere maniere) {
+  ChangeAbondanceEnEchouant(
+      "Bien plus long que dix", [](const Bibliotheque& avec, std::size_t n, Maniere maniere) {
         EXPECT_EQ(FicheFromage(avec, 124).posTexte, 9);
         EXPECT_EQ(FicheFromage(avec, 124).lgTexte, 10);
         EXPECT_EQ(avec.dossier.Lit("GLF2.DAT").substr(8, 10), "Dix octets");
@@ -254,26 +261,16 @@ TEST_F(ChangementDesFromages, LEnteteNeChangeQueDeCompte) {
 }
 
 TEST_F(ChangementDesFromages, DesNotesPlusCourtesQuiEchouentLaissentLaFiche) {
-  EchoueAChaqueEcriture(
-      2,
-      [](Bibliotheque& avec) {
-        avec.GarnitFromages();
-        avec.AjouteFromage(Fromage("Abondance"), "Dix octets");
-      },
-      [](Bibliotheque& avec) {
-        LitFromage(*avec.module, 124);
-        ChangeFromage(*avec.module, 124, {"Banon", {}, 0, 0, 0, "Bref"});
-      },
-      [](const Bibliotheque& avec, std::size_t n, Maniere maniere) {
-        const bool moitie = maniere == Maniere::moitieEcrite;
-        EXPECT_EQ(avec.dossier.Lit("GLF2.DAT"), n == 2   ? "GLF2.DATBrefoctets"
-                                                : moitie ? "GLF2.DATBrx octets"
-                                                         : "GLF2.DATDix octets");
-        EXPECT_EQ(FicheFromage(avec, 124).posTexte, 9);
-        EXPECT_EQ(FicheFromage(avec, 124).lgTexte, 10);
-        EXPECT_EQ(NomFromage(avec, 124), n == 2 && moitie ? "Banon" : "Abondance");
-        EXPECT_EQ(FicheFromage(avec, 1).actif, 123);
-      });
+  ChangeAbondanceEnEchouant("Bref", [](const Bibliotheque& avec, std::size_t n, Maniere maniere) {
+    const bool moitie = maniere == Maniere::moitieEcrite;
+    EXPECT_EQ(avec.dossier.Lit("GLF2.DAT"), n == 2   ? "GLF2.DATBrefoctets"
+                                            : moitie ? "GLF2.DATBrx octets"
+                                                     : "GLF2.DATDix octets");
+    EXPECT_EQ(FicheFromage(avec, 124).posTexte, 9);
+    EXPECT_EQ(FicheFromage(avec, 124).lgTexte, 10);
+    EXPECT_EQ(NomFromage(avec, 124), n == 2 && moitie ? "Banon" : "Abondance");
+    EXPECT_EQ(FicheFromage(avec, 1).actif, 123);
+  });
 }
 
 }  // namespace

@@ -13,6 +13,15 @@ using testing::SizeIs;
 
 class AjouterUnFromage : public FenetreFromages {
  protected:
+  void OuvreEtSaisitTout() {
+    Ouvre(2);
+    Tape(nom(), "Brie");
+    Tape(Le("txtRegionAjouter"), "Meaux");
+    Tape(Le("txtNotesAjouter"), "Note");
+    Choisit(lait(), 1);
+    Choisit(premier(), 1);
+    Choisit(dernier(), 1);
+  }
   QWidget& nom() { return Le("txtFromageAjouter"); }
   QComboBox& lait() { return Le<QComboBox>("ComboLaitAjouter"); }
   QComboBox& premier() { return Le<QComboBox>("ComboPremierMoisAjouter"); }
@@ -148,13 +157,7 @@ TEST_F(AjouterUnFromage, UneEcritureQuiEchoueFinitLeProgrammeEtGardeCeQuiEstEcri
 }
 
 TEST_F(AjouterUnFromage, RevenirSurLOngletOublieLaSaisie) {
-  Ouvre(2);
-  Tape(nom(), "Brie");
-  Tape(Le("txtRegionAjouter"), "Meaux");
-  Tape(Le("txtNotesAjouter"), "Note");
-  Choisit(lait(), 1);
-  Choisit(premier(), 1);
-  Choisit(dernier(), 1);
+  OuvreEtSaisitTout();
   CliqueOnglet(*fenetre, 1);
   CliqueOnglet(*fenetre, 2);
   EXPECT_EQ(champs(), (QStringList{"", "", "?", "?", "?", ""}));
@@ -221,13 +224,7 @@ TEST_F(AjouterUnFromage, LePointeurEstNormalPourDireUneReserveDisparue) {
 }
 
 TEST_F(AjouterUnFromage, RevenirALaFenetreOublieLaSaisieSansUnMot) {
-  Ouvre(2);
-  Tape(nom(), "Brie");
-  Tape(Le("txtRegionAjouter"), "Meaux");
-  Tape(Le("txtNotesAjouter"), "Note");
-  Choisit(lait(), 1);
-  Choisit(premier(), 1);
-  Choisit(dernier(), 1);
+  OuvreEtSaisitTout();
   fenetre->Desactive();
   fenetre->Active();
   EXPECT_EQ(onglet(), 2);
