@@ -95,9 +95,9 @@ void Tour(Releves& releves, const std::filesystem::path& fichier, Module1& modul
   Exige(attendues == nombreRecettes && recettes.entrees().size() == attendues,
         "toutes les recettes ne sont pas dans la liste");
 
-  ListeComptee lues;
+  Liste lues;
   releves.lecture.Mesure([&] { lues = RecettesDeFamille(module, laFamille); });
-  Liste triee = lues.liste;
+  Liste triee = lues;
   releves.tri.Mesure([&] { TrieFrancais(triee); });
   ComboListe essai(QStringLiteral("essai"), Ordre::insertion);
   releves.modele.Mesure([&] { essai.Ajoute(triee); });
@@ -115,7 +115,7 @@ void Tour(Releves& releves, const std::filesystem::path& fichier, Module1& modul
     hote.ChoisitOnglet(ongletAlpha);
     QApplication::processEvents();
   });
-  hote.ChoisitOnglet(frmRecettes::ongletListe);
+  hote.ChoisitOnglet(ongletListe);
   QApplication::processEvents();
 }
 

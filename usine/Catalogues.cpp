@@ -4,6 +4,7 @@
 #include <set>
 
 #include "data/CatalogueFichiers.h"
+#include "data/Limites.h"
 #include "data/Texte1252.h"
 #include "usine/Source.h"
 
@@ -12,12 +13,11 @@ namespace {
 
 using namespace std::string_view_literals;
 
-constexpr std::size_t texteLePlusLong = 30000;
-constexpr Mesure nomLong{1, 128, formes::nom};
+constexpr Mesure nomLong{1, limiteNom, formes::nom};
 constexpr Mesure nomCourt{1, 64, formes::nom};
 constexpr Mesure nomFichier{1, 64, formes::brut};
-constexpr Mesure note{200, texteLePlusLong};
-constexpr Mesure fiche{120, texteLePlusLong};
+constexpr Mesure note{200, std::size_t{limiteTexte}};
+constexpr Mesure fiche{120, std::size_t{limiteTexte}};
 constexpr Mesure ligne{1, 2000, formes::phrase};
 constexpr Mesure ligneLibre{0, 2000, formes::phrase};
 constexpr Mesure conseil{25, 2000, formes::phrase};
@@ -150,9 +150,9 @@ class Lecture {
       texte += "\n" + std::to_string(i + 1) + ". " + etapes[i];
     }
     texte = Compose(texte + "\n\nConseil : " + e.Texte("conseil", conseil));
-    if (texte.size() > texteLePlusLong) {
+    if (texte.size() > std::size_t{limiteTexte}) {
       e.Refuse(std::to_string(texte.size()) + " caractères en tout, au plus " +
-               std::to_string(texteLePlusLong) + " permis");
+               std::to_string(std::size_t{limiteTexte}) + " permis");
     }
     return texte;
   }
@@ -225,7 +225,7 @@ class Lecture {
     constexpr Mesure numero{0, 32, formes::brut};
     constexpr Mesure adresseWeb{0, 256, formes::brut};
     constexpr Mesure adressePostale{0, 512, formes::adresse};
-    constexpr Mesure noteLibre{0, texteLePlusLong};
+    constexpr Mesure noteLibre{0, std::size_t{limiteTexte}};
     Uniques categories;
     Uniques noms;
     const auto categorie = [&](const Entree& e) {

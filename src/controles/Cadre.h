@@ -1,24 +1,9 @@
 // What a child window knows of the frame around it.
 #pragma once
 
-#include <cstdint>
+#include "data/Contextes.h"
 
 namespace gastrelle {
-
-/// The nine entries of the view menu that open a window, in menu order.
-enum class EntreeVue : std::uint8_t {
-  recettes,
-  fromages,
-  menus,
-  vins,
-  millesimes,
-  termesTrucsAstuces,
-  favoris,
-  mesNotes,
-  mesCourses,
-};
-
-inline constexpr std::size_t nombreVues = 9;
 
 class Cadre {
  public:

@@ -1,11 +1,115 @@
 #include "controles/FenetreEnfant.h"
 
+#include <algorithm>
+
+#include <QCloseEvent>
+
+#include "controles/Focus.h"
+#include "controles/ZoneTexte.h"
+#include "data/ProceduresFichiers.h"
+
 namespace gastrelle {
+
+FenetreEnfant::FenetreEnfant(Module1& module, Cadre& cadre, const DescriptionFenetre& description)
+    : module_(module), cadre_(cadre), description_(description) {
+  setObjectName(QLatin1String(description.nom));
+  setWindowTitle(QString::fromUtf16(description.titre));
+}
+
+void FenetreEnfant::Active() {
+  if (module_.erreurFatale) {
+    ErreurFatale(module_);
+  }
+  if (EstReduite()) {
+    return;
+  }
+  cadre_.Coche(description_.vue);
+  EtatCadre();
+  module_.services.pointeur.Normal();
+}
+
+void FenetreEnfant::Desactive() {
+  if (!EstReduite()) {
+    AvantSortie();
+    RazCadre();
+  }
+}
+
+void FenetreEnfant::QuandReduite() {
+  if (description_.razReduite) {
+    RazCadre();
+  }
+}
+
+void FenetreEnfant::MontreEnregistrement(std::int32_t /*numero*/) {
+  throw ErreurExecution(Panne::fichierIntrouvable);
+}
 
 void FenetreEnfant::Decharge() {
   parProgramme_ = true;
-  QWidget* fenetre = parentWidget() != nullptr ? parentWidget() : this;
-  fenetre->close();
+  Contour().close();
+}
+
+void FenetreEnfant::closeEvent(QCloseEvent* evenement) {
+  const bool cachee = description_.seCache && !parProgramme_;
+  if (!cachee) {
+    AvantSortie();
+  }
+  RazCadre();
+  evenement->setAccepted(!cachee);
+  if (cachee) {
+    Contour().hide();
+  }
+}
+
+void FenetreEnfant::EtatCadre() {
+  cadre_.PoseContexte(Contexte(description_.vue));
+}
+
+void FenetreEnfant::RazCadre() {
+  cadre_.QuitteContexte(description_.vue);
+}
+
+bool FenetreEnfant::EstReduite() const {
+  return parentWidget() != nullptr && parentWidget()->isMinimized();
+}
+
+QWidget& FenetreEnfant::Contour() {
+  return parentWidget() != nullptr ? *parentWidget() : *this;
+}
+
+QSize FenetreEnfant::sizeHint() const {
+  return QWidget::sizeHint().expandedTo(Place(description_.taille));
+}
+
+QSize FenetreEnfant::minimumSizeHint() const {
+  return QWidget::minimumSizeHint().expandedTo(Place(description_.moindre));
+}
+
+QSize FenetreEnfant::Place(const Etendue& etendue) const {
+  const QFontMetrics metrique = fontMetrics();
+  return {etendue.lettres * metrique.averageCharWidth(), etendue.lignes * metrique.lineSpacing()};
+}
+
+void FenetreEnfant::Refuse(std::string_view texte, QWidget* focus) {
+  module_.services.pointeur.Normal();
+  module_.services.messages.Informe(texte, Icone::information);
+  if (focus != nullptr) {
+    DonneFocus(focus);
+  }
+}
+
+void FenetreEnfant::RefuseAvecBip(std::string_view texte, QWidget* focus) {
+  module_.services.pointeur.Normal();
+  module_.services.messages.Bip();
+  Refuse(texte, focus);
+}
+
+bool FenetreEnfant::ConfirmeEffacement(std::initializer_list<const QWidget*> boites) {
+  const bool saisie = std::any_of(boites.begin(), boites.end(),
+                                  [](const QWidget* boite) { return !EstVide(*boite); });
+  return !saisie || module_.services.messages.Demande("Effacer la saisie : êtes-sur sûr ?"_1252) ==
+                        Reponse::oui;
 }
 
 }  // namespace gastrelle

@@ -1,36 +1,95 @@
-// A child window of the frame, as the frame sees it.
+// The base of every child window: what it owes the frame when it comes to the front, leaves it, is
+// minimised or closed, and the refusals and questions of its operations.
 #pragma once
+
+#include <initializer_list>
+#include <string_view>
 
 #include <QWidget>
 
+#include "controles/Cadre.h"
+#include "data/Module1.h"
 #include "data/Vues.h"
 
 namespace gastrelle {
 
+/// Room for so many letters of mean width by so many lines.
+struct Etendue {
+  int lettres;
+  int lignes;
+};
+
+/// What is peculiar to a window, as data.
+struct DescriptionFenetre {
+  const char* nom;          ///< objectName
+  const char16_t* titre;    ///< caption
+  EntreeVue vue;            ///< its entry in the view menu
+  const char* logo;         ///< picture of the logo band
+  bool razReduite = false;  ///< resets the frame when it is minimised
+  bool seCache = false;     ///< its close box hides it: the program alone unloads it
+  Etendue taille{116, 35};  ///< at first, at normal size
+  Etendue moindre{116, 27};
+};
+
 class FenetreEnfant : public QWidget {
  public:
-  using QWidget::QWidget;
+  FenetreEnfant(Module1& module, Cadre& cadre, const DescriptionFenetre& description);
 
   /// The user or the program has switched to this window. Modal dialogs and other programs in front
   /// don't count as switching.
-  virtual void Active() = 0;
+  virtual void Active();
   /// The user or the program has switched away from it.
-  virtual void Desactive() = 0;
+  virtual void Desactive();
   /// The window has just been minimised in the frame.
-  virtual void Reduit() {}
-  /// What the tab on display shows.
-  [[nodiscard]] virtual Vue VueCourante() const { return {}; }
+  virtual void QuandReduite();
 
-  /// True if the window sits minimised in the frame.
-  [[nodiscard]] bool Reduite() const {
-    return parentWidget() != nullptr && parentWidget()->isMinimized();
-  }
+  /// What the window shows now.
+  [[nodiscard]] virtual Vue VueCourante() const { return {}; }
+  /// What is being typed is put away: the window's content is about to be printed, or the window to
+  /// be left or unloaded.
+  virtual void AvantSortie() {}
+  /// Shows a record, as a user who chooses it would. Raises error 53 if the window's list doesn't
+  /// hold it.
+  virtual void MontreEnregistrement(std::int32_t numero);
 
   /// Unloads the window on the program's own account, as opposed to its close box.
   void Decharge();
-  [[nodiscard]] bool dechargee() const { return parProgramme_; }
+
+  [[nodiscard]] Module1& module() const { return module_; }
+  [[nodiscard]] Cadre& cadre() const { return cadre_; }
+  [[nodiscard]] const DescriptionFenetre& description() const { return description_; }
+
+  /// A refusal: pointer to normal, the information message, the focus where the user has to act
+  /// (null: the caller sees to it).
+  void Refuse(std::string_view texte, QWidget* focus);
+  /// A refusal with a beep before its message.
+  void RefuseAvecBip(std::string_view texte, QWidget* focus);
+  /// Asks before entries are wiped out, if any of the boxes holds text. True: go on.
+  [[nodiscard]] bool ConfirmeEffacement(std::initializer_list<const QWidget*> boites);
+
+  /// The sizes of the description, or more if what was made so far needs more.
+  [[nodiscard]] QSize sizeHint() const override;
+  [[nodiscard]] QSize minimumSizeHint() const override;
+
+ protected:
+  /// Brings the frame into the state that the window wants.
+  virtual void EtatCadre();
+  /// Brings the frame into the state without this window.
+  void RazCadre();
+  /// True once the program itself unloads the window.
+  [[nodiscard]] bool parProgramme() const { return parProgramme_; }
+
+  void closeEvent(QCloseEvent* evenement) override;
 
  private:
+  [[nodiscard]] bool EstReduite() const;
+  /// The window in the frame that holds this one, or itself when it stands alone.
+  [[nodiscard]] QWidget& Contour();
+  [[nodiscard]] QSize Place(const Etendue& etendue) const;
+
+  Module1& module_;
+  Cadre& cadre_;
+  const DescriptionFenetre& description_;
   bool parProgramme_ = false;
 };
 

@@ -1,7 +1,5 @@
-// The help key, which every help button of the program sends.
+// The help key: who sends it, and what it opens.
 #pragma once
-
-#include <QPushButton>
 
 namespace gastrelle {
 
@@ -9,14 +7,7 @@ namespace gastrelle {
 /// lies inside it.
 inline constexpr const char* proprieteSujet = "sujetAide";
 
-/// Sends the key F1 to the control in focus.
+/// Sends the key F1 to the control in focus, or to the active window.
 void EnvoieF1();
-
-/// A button of a page's foot.
-QPushButton* Bouton(const QString& nom, const QString& titre, const QString& icone,
-                    const QString& infobulle, QWidget* parent);
-
-/// A help button: its click sends the key F1.
-QPushButton* BoutonAide(const QString& nom, QWidget* parent);
 
 }  // namespace gastrelle

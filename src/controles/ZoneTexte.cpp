@@ -193,9 +193,11 @@ bool EstVide(const QWidget& boite) {
   return dynamic_cast<const LigneTexte&>(boite).text().isEmpty();
 }
 
-void DonneFocus(QWidget* controle) {
-  if (controle->isVisible() && controle->isEnabled()) {
-    controle->setFocus(Qt::OtherFocusReason);
+void VideBoite(QWidget& boite) {
+  if (auto* zone = dynamic_cast<ZoneTexte*>(&boite)) {
+    zone->PoseTexte({});
+  } else {
+    dynamic_cast<LigneTexte&>(boite).PoseTexte({});
   }
 }
 

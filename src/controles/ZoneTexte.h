@@ -68,7 +68,7 @@ class LigneTexte final : public QLineEdit {
 /// True if a text box (of one line or several) holds nothing.
 [[nodiscard]] bool EstVide(const QWidget& boite);
 
-/// Gives the focus if the control can take it now; otherwise nothing happens.
-void DonneFocus(QWidget* controle);
+/// Empties a text box (of one line or several).
+void VideBoite(QWidget& boite);
 
 }  // namespace gastrelle

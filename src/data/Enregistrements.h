@@ -16,6 +16,8 @@ inline constexpr std::int16_t supprime = 0;
 struct RecFamille {
   std::int16_t actif = 0;
   TexteFixe<128> nomFamille;
+
+  static constexpr auto champNom = &RecFamille::nomFamille;
 };
 
 /// In the header `idFamille` holds `dateFichiers`, the day of the restoration from the factory
@@ -28,6 +30,8 @@ struct RecRecette {
   std::int32_t lgTexte = 0;
   std::int32_t posImage = 0;
   std::int32_t lgImage = 0;
+
+  static constexpr auto champNom = &RecRecette::nomRecette;
 };
 
 /// Codes: milk 0 "?", 1 cow, 2 goat, 3 ewe; months 0 "?", 1 January to 12 December.
@@ -40,6 +44,8 @@ struct RecFromage {
   std::int16_t dernierMois = 0;
   std::int32_t posTexte = 0;
   std::int32_t lgTexte = 0;
+
+  static constexpr auto champNom = &RecFromage::nomFromage;
 };
 
 /// A titled text: a menu, or a term, tip or trick.
@@ -48,11 +54,15 @@ struct RecFiche {
   TexteFixe<128> titre;
   std::int32_t posTexte = 0;
   std::int32_t lgTexte = 0;
+
+  static constexpr auto champNom = &RecFiche::titre;
 };
 
 struct RecRegion {
   std::int16_t actif = 0;
   TexteFixe<64> nomRegion;
+
+  static constexpr auto champNom = &RecRegion::nomRegion;
 };
 
 /// The nine counts are bottles in the cellar, by colour.
@@ -73,6 +83,8 @@ struct RecVin {
   std::int32_t lgTexte = 0;
   std::int32_t posNotesCave = 0;
   std::int32_t lgNotesCave = 0;
+
+  static constexpr auto champNom = &RecVin::nomVin;
 };
 
 /// The grades of one year, 0 "Non classé" to 5 "Exceptionnelle". No header, no live flag: record n
@@ -101,6 +113,8 @@ struct RecFavori {
   TexteFixe<256> siteWeb;
   std::int32_t posTexte = 0;
   std::int32_t lgTexte = 0;
+
+  static constexpr auto champNom = &RecFavori::nomFavori;
 };
 
 /// The one record of the preferences file.
@@ -232,14 +246,10 @@ static_assert(bienForme<RecFavori, 724>);
 static_assert(bienForme<RecPreferences, 6>);
 static_assert(bienForme<LigneRayon, 8>);
 
-/// The first text field of a record: the name in a data record, the signature in a header.
+/// What names a record (its `champNom`); a header keeps its signature there.
 template <class Enregistrement>
 auto& NomOuSignature(Enregistrement& e) {
-  if constexpr (requires { e.idFamille; }) {
-    return e.*std::get<2>(champs<std::remove_const_t<Enregistrement>>).membre;
-  } else {
-    return e.*std::get<1>(champs<std::remove_const_t<Enregistrement>>).membre;
-  }
+  return e.*Enregistrement::champNom;
 }
 
 }  // namespace gastrelle

@@ -70,12 +70,6 @@ void ExigeFichier(Module1& module, Donnees fichier) {
   }
 }
 
-void ExigeFichierOuFin(Module1& module, Donnees fichier) {
-  if (!FichierExisteMsg(module, fichier)) {
-    ErreurFatale(module);
-  }
-}
-
 bool DossierExiste(Module1& module, std::string_view nom) {
   return Trouve([&] { return module.services.disque.DossierExiste(std::string(nom)); });
 }

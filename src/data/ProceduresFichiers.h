@@ -19,9 +19,6 @@ namespace gastrelle {
 /// FichierExisteMsg; raises error 53 on a False answer.
 void ExigeFichier(Module1& module, Donnees fichier);
 
-/// FichierExisteMsg; ends the program through ErreurFatale on a False answer.
-void ExigeFichierOuFin(Module1& module, Donnees fichier);
-
 /// True if the program's folder holds a folder of that name. Silent.
 [[nodiscard]] bool DossierExiste(Module1& module, std::string_view nom);
 
@@ -52,23 +49,23 @@ void VerifieEntete(Module1& module, Donnees fichier);
 /// The end of a guarded operation: pointer to normal, then ErreurFatale if the flag stands.
 void FinOperation(Module1& module);
 
-/// Runs a block; a failure sets the shared flag `erreurFatale` and is told by a False answer.
-template <class F>
-bool Tente(Module1& module, F&& bloc) {
-  try {
-    bloc();
-    return true;
-  } catch (const ErreurExecution&) {
-    module.erreurFatale = true;
-    return false;
-  }
-}
-
-/// The operation guard: the block, then the end of the operation.
+/// The operation guard: the block, whose failure sets the shared flag `erreurFatale`, then the end
+/// of the operation.
 template <class F>
 void Garde(Module1& module, F&& bloc) {
-  Tente(module, bloc);
+  try {
+    bloc();
+  } catch (const ErreurExecution&) {
+    module.erreurFatale = true;
+  }
   FinOperation(module);
+}
+
+/// An operation of the user's: the hourglass, then the block under the guard.
+template <class F>
+void Opere(Module1& module, F&& bloc) {
+  module.services.pointeur.Sablier();
+  Garde(module, bloc);
 }
 
 }  // namespace gastrelle

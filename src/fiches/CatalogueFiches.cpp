@@ -1,6 +1,7 @@
 #include "fiches/CatalogueFiches.h"
 
 #include "data/ChangementCatalogue.h"
+#include "data/Limites.h"
 #include "data/ListeVivants.h"
 #include "data/ProceduresFichiers.h"
 
@@ -11,49 +12,61 @@ ReferenceTexte Texte(RecFiche& fiche) {
   return {fiche.posTexte, fiche.lgTexte};
 }
 
-}  // namespace
-
-void CatalogueFiches::ExigeFichiers(bool avecTexte) {
-  ExigeFichier(module_, fichiers_.fiches);
+void ExigePourEcrire(Module1& module, const FichiersFiches& fichiers, bool avecTexte) {
+  ExigeFiches(module, fichiers);
   if (avecTexte) {
-    ExigeFichier(module_, fichiers_.textes);
+    ExigeFichier(module, fichiers.textes);
   }
 }
 
-Liste CatalogueFiches::ListeTitres() {
-  ExigeFichiers(false);
-  return ListeReparee(tampon(), tampon().courant());
+}  // namespace
+
+void ExigeFiches(Module1& module, const FichiersFiches& fichiers) {
+  ExigeFichier(module, fichiers.fiches);
 }
 
-std::string CatalogueFiches::LitTexte(std::int32_t numero) {
-  ExigeFichiers(true);
-  tampon().LireCourant(numero);
-  const RecFiche& fiche = tampon().courant();
-  return fiche.posTexte < 1 ? std::string{}
-                            : reserve().Lire(fiche.posTexte, fiche.lgTexte, limiteTexteFiche);
+Liste ListeFiches(Module1& module, const FichiersFiches& fichiers) {
+  ExigeFiches(module, fichiers);
+  auto& tampon = module.*fichiers.tampon;
+  return ListeReparee(tampon, tampon.courant());
 }
 
-std::int32_t CatalogueFiches::Ajoute(std::string_view titre, std::string_view texte) {
-  ExigeFichiers(!texte.empty());
-  RecFiche& fiche = tampon().courant();
+std::string LitFiche(Module1& module, const FichiersFiches& fichiers, std::int32_t numero) {
+  ExigeFiches(module, fichiers);
+  ExigeFichier(module, fichiers.textes);
+  auto& tampon = module.*fichiers.tampon;
+  tampon.LireCourant(numero);
+  const RecFiche& fiche = tampon.courant();
+  return fiche.posTexte < 1
+             ? std::string{}
+             : (module.*fichiers.reserve).Lire(fiche.posTexte, fiche.lgTexte, limiteTexte);
+}
+
+std::int32_t AjouteFiche(Module1& module, const FichiersFiches& fichiers, std::string_view titre,
+                         std::string_view texte) {
+  ExigePourEcrire(module, fichiers, !texte.empty());
+  auto& tampon = module.*fichiers.tampon;
+  RecFiche& fiche = tampon.courant();
   fiche.actif = vivant;
   fiche.titre = titre;
-  AjouteTexte(reserve(), Texte(fiche), texte);
-  return AjouteCourant(tampon());
+  AjouteTexte(module.*fichiers.reserve, Texte(fiche), texte);
+  return AjouteCourant(tampon);
 }
 
-void CatalogueFiches::Change(std::int32_t numero, std::string_view titre, std::string_view texte) {
-  ExigeFichiers(!texte.empty());
-  RecFiche& fiche = tampon().courant();
-  reserve().Remplace(Texte(fiche), texte);
+void ChangeFiche(Module1& module, const FichiersFiches& fichiers, std::int32_t numero,
+                 std::string_view titre, std::string_view texte) {
+  ExigePourEcrire(module, fichiers, !texte.empty());
+  auto& tampon = module.*fichiers.tampon;
+  RecFiche& fiche = tampon.courant();
+  (module.*fichiers.reserve).Remplace(Texte(fiche), texte);
   fiche.actif = vivant;
   fiche.titre = titre;
-  tampon().EcrireCourant(numero);
+  tampon.EcrireCourant(numero);
 }
 
-void CatalogueFiches::Supprime(std::int32_t numero) {
-  ExigeFichiers(false);
-  SupprimeEnregistrement(tampon(), numero);
+void SupprimeFiche(Module1& module, const FichiersFiches& fichiers, std::int32_t numero) {
+  ExigeFiches(module, fichiers);
+  SupprimeEnregistrement(module.*fichiers.tampon, numero);
 }
 
 }  // namespace gastrelle

@@ -1,23 +1,25 @@
 #include "fiches/frmFiches.h"
 
-#include "data/ProceduresFichiers.h"
-#include "fiches/frmFichesListe.h"
-
 namespace gastrelle {
 
-frmFiches::frmFiches(Module1& module, Cadre& cadre, const DescriptionFiches& description)
-    : FenetreOnglets(module, cadre, description.fenetre),
-      description_(description),
-      catalogue_(module, description.fichiers),
-      liste_(static_cast<frmFichesListe&>(Page(ongletListe))) {
-  ExigeFichierOuFin(module, description.fichiers.fiches);
-  liste_.Charge();
-  liste_.combo->Choisit(0);
+frmFiches::frmFiches(Module1& module, Cadre& cadre, const DescriptionFenetre& description,
+                     const JeuOnglets& jeu)
+    : FenetreOnglets(module, cadre, description, jeu) {
+  liste().Charge();
+}
+
+frmFichesListe& frmFiches::liste() {
+  return static_cast<frmFichesListe&>(Page(ongletListe));
+}
+
+void frmFiches::MontreEnregistrement(std::int32_t numero) {
+  MontreDansListe(*liste().combo, numero);
 }
 
 std::string frmFiches::Annonce() {
-  return std::to_string(catalogue_.Nombre()) + std::string(CRLF) +
-         std::string(description_.annonce);
+  const DescriptionFiches& description = liste().description();
+  return std::to_string(NombreFiches(module(), description.fichiers)) + std::string(CRLF) +
+         std::string(description.annonce);
 }
 
 }  // namespace gastrelle

@@ -1,31 +1,30 @@
-// The window of a catalogue of titled texts: the host of its four pages, and what they share.
+// The window of a catalogue of titled texts: what the two windows above it share over their pages.
 #pragma once
 
 #include "controles/FenetreOnglets.h"
-#include "fiches/CatalogueFiches.h"
-#include "fiches/frmFichesDescription.h"
+#include "fiches/frmFichesListe.h"
 
 namespace gastrelle {
-
-class frmFichesListe;
 
 class frmFiches : public FenetreOnglets {
  public:
   /// Fills the list and shows its first entry.
-  frmFiches(Module1& module, Cadre& cadre, const DescriptionFiches& description);
+  frmFiches(Module1& module, Cadre& cadre, const DescriptionFenetre& description,
+            const JeuOnglets& jeu);
 
-  [[nodiscard]] const DescriptionFiches& description() const { return description_; }
-  [[nodiscard]] CatalogueFiches& catalogue() { return catalogue_; }
   /// The tab on which the record of the whole window is selected.
-  [[nodiscard]] frmFichesListe& liste() { return liste_; }
+  [[nodiscard]] frmFichesListe& liste();
+
+  void MontreEnregistrement(std::int32_t numero) override;
 
  protected:
   [[nodiscard]] std::string Annonce() override;
-
- private:
-  const DescriptionFiches& description_;
-  CatalogueFiches catalogue_;
-  frmFichesListe& liste_;
 };
+
+/// How a window's table names its list page, the one that is told which catalogue it shows.
+template <const DescriptionFiches& description>
+Onglet& CreeListe(const PlaceOnglet& place) {
+  return *new frmFichesListe(place, description);
+}
 
 }  // namespace gastrelle

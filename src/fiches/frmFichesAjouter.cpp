@@ -1,25 +1,17 @@
 #include "fiches/frmFichesAjouter.h"
 
-#include "controles/Touches.h"
+#include "controles/Focus.h"
 #include "data/ProceduresFichiers.h"
-#include "fiches/frmFiches.h"
 #include "fiches/frmFichesListe.h"
 
 namespace gastrelle {
 
-frmFichesAjouter::frmFichesAjouter(frmFiches& hote)
-    : frmFichesSaisie(hote, hote.description().ajouter) {
-  QPushButton* cmdValideAjouter =
-      Bouton(QStringLiteral("cmdValideAjouter"), QStringLiteral("&Valider"),
-             QStringLiteral("valider"), QStringLiteral("Valider les saisies"), this);
-  QPushButton* cmdEffacerAjouter =
-      Bouton(QStringLiteral("cmdEffacerAjouter"), QStringLiteral("Effa&cer"),
-             QStringLiteral("effacer"), QStringLiteral("Effacer toutes les saisies"), this);
-  boutons().addWidget(cmdValideAjouter);
-  boutons().addWidget(cmdEffacerAjouter);
-  boutons().addWidget(BoutonAide(QStringLiteral("cmdAideAjouter"), this));
-  connect(cmdValideAjouter, &QPushButton::clicked, this, [this] { Valide(); });
-  connect(cmdEffacerAjouter, &QPushButton::clicked, this, [this] { Efface(); });
+frmFichesAjouter::frmFichesAjouter(const PlaceOnglet& place, frmFichesListe& liste)
+    : frmFichesSaisie(place, liste, &DescriptionFiches::ajouter) {
+  boutons().Valide("cmdValideAjouter", u"Valider les saisies",
+                   [this] { Opere(module(), [this] { Valide(); }); });
+  boutons().Efface("cmdEffacerAjouter", [this] { Efface(); });
+  boutons().Aide("cmdAideAjouter");
 }
 
 void frmFichesAjouter::Entre() {
@@ -28,21 +20,14 @@ void frmFichesAjouter::Entre() {
 }
 
 void frmFichesAjouter::Valide() {
-  Module1& module = hote().module();
-  module.services.pointeur.Sablier();
   const std::string nouveau = TitreRogne();
   if (nouveau.empty()) {
-    hote().Refuse(hote().description().sansTitreAjouter, &titre());
+    hote().Refuse(description().sansTitreAjouter, &titre());
     return;
   }
-  const std::string sonTexte = TexteRogne();
-  Garde(module, [&] {
-    const std::int32_t numero = hote().catalogue().Ajoute(nouveau, sonTexte);
-    ComboListe& combo = *hote().liste().combo;
-    combo.Ajoute({nouveau, numero});
-    hote().ChoisitOnglet(FenetreOnglets::ongletListe);
-    combo.ChoisitDonnee(numero);
-  });
+  const std::int32_t numero = AjouteFiche(module(), description().fichiers, nouveau, TexteRogne());
+  liste().combo->Ajoute({nouveau, numero});
+  hote().MontreEnregistrement(numero);
 }
 
 void frmFichesAjouter::Efface() {

@@ -7,7 +7,7 @@ namespace gastrelle {
 
 class frmFichesAjouter final : public frmFichesSaisie {
  public:
-  explicit frmFichesAjouter(frmFiches& hote);
+  frmFichesAjouter(const PlaceOnglet& place, frmFichesListe& liste);
 
   /// The entry rule of the tab: both boxes are emptied.
   void Entre() override;

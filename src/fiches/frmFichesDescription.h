@@ -6,7 +6,6 @@
 #include <string_view>
 #include <utility>
 
-#include "controles/FenetreOnglets.h"
 #include "data/Vues.h"
 #include "fiches/CatalogueFiches.h"
 
@@ -27,7 +26,6 @@ struct DescriptionSaisie {
 enum class BoutonProtege : std::uint8_t { inactif, cache };
 
 struct DescriptionFiches {
-  DescriptionFenetre fenetre;
   FichiersFiches fichiers;
   DescriptionSaisie liste;
   DescriptionSaisie ajouter;

@@ -1,41 +1,39 @@
 #include "fiches/frmFichesListe.h"
 
-#include "controles/Touches.h"
+#include "controles/Focus.h"
+#include "data/Limites.h"
 #include "data/ProceduresFichiers.h"
-#include "fiches/frmFiches.h"
 
 namespace gastrelle {
 
-frmFichesListe::frmFichesListe(frmFiches& hote)
-    : PageOnglet(hote),
-      combo(
-          new ComboListe(QLatin1String(hote.description().liste.titre), Ordre::alphabetique, this)),
-      texte(new ZoneTexte(QLatin1String(hote.description().liste.texte), limiteTexteFiche, this)),
-      hote_(hote) {
-  const DescriptionSaisie& description = hote.description().liste;
+frmFichesListe::frmFichesListe(const PlaceOnglet& place, const DescriptionFiches& description)
+    : PageOnglet(place),
+      combo(new ComboListe(QLatin1String(description.liste.titre), Ordre::alphabetique, this)),
+      texte(new ZoneTexte(QLatin1String(description.liste.texte), limiteTexte, this)),
+      description_(description) {
+  const DescriptionSaisie& controles = description.liste;
   texte->RendLectureSeule();
-  combo->setToolTip(QString::fromUtf16(description.infobulleTitre));
-  Etage(QString::fromUtf16(description.legendeTitre), combo);
-  contenu().setRowStretch(Etage(QString::fromUtf16(description.legendeTexte), texte), 1);
-  boutons().addWidget(BoutonAide(QStringLiteral("cmdAideListe"), this));
+  combo->setToolTip(QString::fromUtf16(controles.infobulleTitre));
+  Etage(QString::fromUtf16(controles.legendeTitre), combo);
+  contenu().setRowStretch(Etage(QString::fromUtf16(controles.legendeTexte), texte), 1);
+  boutons().Aide("cmdAideListe");
   combo->surChoix = [this] { Affiche(); };
 }
 
 void frmFichesListe::Charge() {
-  Module1& module = hote_.module();
-  module.services.pointeur.Sablier();
-  Garde(module, [&] { combo->Ajoute(hote_.catalogue().ListeTitres()); });
+  Garde(module(), [&] { ExigeFiches(module(), description_.fichiers); });
+  Recharge();
+  combo->Choisit(0);
 }
 
 void frmFichesListe::Recharge() {
   combo->Vide();
-  Charge();
+  Opere(module(), [&] { combo->Ajoute(ListeFiches(module(), description_.fichiers)); });
 }
 
 void frmFichesListe::Affiche() {
-  Module1& module = hote_.module();
-  module.services.pointeur.Sablier();
-  Garde(module, [&] { texte->PoseTexte(hote_.catalogue().LitTexte(combo->Donnee())); });
+  Opere(module(),
+        [&] { texte->PoseTexte(LitFiche(module(), description_.fichiers, combo->Donnee())); });
   DonneFocus(texte);
 }
 
@@ -43,8 +41,12 @@ void frmFichesListe::Entre() {
   DonneFocus(texte);
 }
 
+std::string frmFichesListe::Titre() const {
+  return std::string(Rogne(combo->Texte()));
+}
+
 Vue frmFichesListe::VueCourante() const {
-  return hote_.description().vue(combo->Texte(), texte->Texte());
+  return description_.vue(combo->Texte(), texte->Texte());
 }
 
 }  // namespace gastrelle

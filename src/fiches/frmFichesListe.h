@@ -1,22 +1,26 @@
-// The tab "Liste" of a window of titled texts: the titles, the text of the one that is chosen.
+// The tab "Liste" of a window of titled texts: the titles, the text of the one that is chosen,
+// which is the record of the whole window.
 #pragma once
 
 #include "controles/ComboListe.h"
 #include "controles/PageOnglet.h"
 #include "controles/ZoneTexte.h"
+#include "fiches/frmFichesDescription.h"
 
 namespace gastrelle {
 
-class frmFiches;
-
 class frmFichesListe final : public PageOnglet {
  public:
-  explicit frmFichesListe(frmFiches& hote);
+  frmFichesListe(const PlaceOnglet& place, const DescriptionFiches& description);
 
   ComboListe* combo;
   ZoneTexte* texte;
 
-  /// Adds all live records to the list.
+  [[nodiscard]] const DescriptionFiches& description() const { return description_; }
+  /// Title of the record on display, trimmed; empty without one.
+  [[nodiscard]] std::string Titre() const;
+
+  /// Fills the list and shows its first entry.
   void Charge();
   /// Empties the list and fills it again.
   void Recharge();
@@ -27,7 +31,7 @@ class frmFichesListe final : public PageOnglet {
  private:
   void Affiche();
 
-  frmFiches& hote_;
+  const DescriptionFiches& description_;
 };
 
 }  // namespace gastrelle

@@ -1,25 +1,16 @@
 #include "fiches/frmFichesModifier.h"
 
-#include "controles/Touches.h"
+#include "controles/Focus.h"
 #include "data/ProceduresFichiers.h"
-#include "fiches/frmFiches.h"
 #include "fiches/frmFichesListe.h"
 
 namespace gastrelle {
 
-frmFichesModifier::frmFichesModifier(frmFiches& hote)
-    : frmFichesSaisie(hote, hote.description().modifier) {
-  QPushButton* cmdValideModifier =
-      Bouton(QStringLiteral("cmdValideModifier"), QStringLiteral("&Valider"),
-             QStringLiteral("valider"), QStringLiteral("Valider les saisies"), this);
-  QPushButton* cmdEffacerModifier =
-      Bouton(QStringLiteral("cmdEffacerModifier"), QStringLiteral("Ré&initialiser"),
-             QStringLiteral("reinitialiser"), QStringLiteral("Réinitialiser"), this);
-  boutons().addWidget(cmdValideModifier);
-  boutons().addWidget(cmdEffacerModifier);
-  boutons().addWidget(BoutonAide(QStringLiteral("cmdAideModifier"), this));
-  connect(cmdValideModifier, &QPushButton::clicked, this, [this] { Valide(); });
-  connect(cmdEffacerModifier, &QPushButton::clicked, this, [this] { Reprend(); });
+frmFichesModifier::frmFichesModifier(const PlaceOnglet& place, frmFichesListe& liste)
+    : frmFichesSaisie(place, liste, &DescriptionFiches::modifier) {
+  boutons().Valide("cmdValideModifier", u"Valider les saisies", [this] { Valide(); });
+  boutons().Reinitialise("cmdEffacerModifier", [this] { Reprend(); });
+  boutons().Aide("cmdAideModifier");
 }
 
 void frmFichesModifier::Entre() {
@@ -28,24 +19,18 @@ void frmFichesModifier::Entre() {
 }
 
 void frmFichesModifier::Valide() {
-  Module1& module = hote().module();
-  ComboListe& combo = *hote().liste().combo;
   const std::string nouveau = TitreRogne();
   if (nouveau.empty()) {
-    hote().Refuse(hote().description().sansTitreModifier, nullptr);
-    titre().PoseTexte(Rogne(combo.Texte()));
+    hote().Refuse(description().sansTitreModifier, nullptr);
+    titre().PoseTexte(liste().Titre());
     DonneFocus(&titre());
     return;
   }
-  module.services.pointeur.Sablier();
-  const std::string sonTexte = TexteRogne();
-  Garde(module, [&] {
-    const std::int32_t numero = combo.Donnee();
-    hote().catalogue().Change(numero, nouveau, sonTexte);
-    hote().liste().Recharge();
-    const int indice = combo.IndiceDe(numero);
-    hote().ChoisitOnglet(FenetreOnglets::ongletListe);
-    combo.Choisit(indice);
+  Opere(module(), [&] {
+    const std::int32_t numero = liste().combo->Donnee();
+    ChangeFiche(module(), description().fichiers, numero, nouveau, TexteRogne());
+    liste().Recharge();
+    hote().MontreEnregistrement(numero);
   });
 }
 

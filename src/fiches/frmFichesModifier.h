@@ -7,7 +7,7 @@ namespace gastrelle {
 
 class frmFichesModifier final : public frmFichesSaisie {
  public:
-  explicit frmFichesModifier(frmFiches& hote);
+  frmFichesModifier(const PlaceOnglet& place, frmFichesListe& liste);
 
   /// The entry rule of the tab: the boxes take the record on display.
   void Entre() override;

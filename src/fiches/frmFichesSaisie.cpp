@@ -1,24 +1,30 @@
 #include "fiches/frmFichesSaisie.h"
 
-#include "fiches/frmFiches.h"
+#include "data/Limites.h"
 #include "fiches/frmFichesListe.h"
 
 namespace gastrelle {
 
-frmFichesSaisie::frmFichesSaisie(frmFiches& hote, const DescriptionSaisie& description)
-    : PageOnglet(hote),
-      hote_(hote),
-      titre_(new LigneTexte(QLatin1String(description.titre), limiteTitreFiche, this)),
-      texte_(new ZoneTexte(QLatin1String(description.texte), limiteTexteFiche, this)) {
-  titre_->setToolTip(QString::fromUtf16(description.infobulleTitre));
-  texte_->setToolTip(QString::fromUtf16(description.infobulleTexte));
-  Etage(QString::fromUtf16(description.legendeTitre), titre_);
-  contenu().setRowStretch(Etage(QString::fromUtf16(description.legendeTexte), texte_), 1);
+frmFichesSaisie::frmFichesSaisie(const PlaceOnglet& place, frmFichesListe& liste,
+                                 DescriptionSaisie DescriptionFiches::*controles)
+    : PageOnglet(place),
+      liste_(liste),
+      titre_(new LigneTexte(QLatin1String((description().*controles).titre), limiteNom, this)),
+      texte_(new ZoneTexte(QLatin1String((description().*controles).texte), limiteTexte, this)) {
+  const DescriptionSaisie& siens = description().*controles;
+  titre_->setToolTip(QString::fromUtf16(siens.infobulleTitre));
+  texte_->setToolTip(QString::fromUtf16(siens.infobulleTexte));
+  Etage(QString::fromUtf16(siens.legendeTitre), titre_);
+  contenu().setRowStretch(Etage(QString::fromUtf16(siens.legendeTexte), texte_), 1);
+}
+
+const DescriptionFiches& frmFichesSaisie::description() const {
+  return liste_.description();
 }
 
 void frmFichesSaisie::Reprend() {
-  titre_->PoseTexte(Rogne(hote_.liste().combo->Texte()));
-  texte_->PoseTexte(hote_.liste().texte->Texte());
+  titre_->PoseTexte(liste_.Titre());
+  texte_->PoseTexte(liste_.texte->Texte());
 }
 
 void frmFichesSaisie::Vide() {

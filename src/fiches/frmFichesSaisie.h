@@ -8,11 +8,13 @@
 
 namespace gastrelle {
 
-class frmFiches;
+class frmFichesListe;
 
 class frmFichesSaisie : public PageOnglet {
  protected:
-  frmFichesSaisie(frmFiches& hote, const DescriptionSaisie& description);
+  /// `controles`: the part of the description that tells this page's boxes.
+  frmFichesSaisie(const PlaceOnglet& place, frmFichesListe& liste,
+                  DescriptionSaisie DescriptionFiches::*controles);
 
   /// Both boxes take the record on display, their cursors at the start.
   void Reprend();
@@ -21,12 +23,13 @@ class frmFichesSaisie : public PageOnglet {
   [[nodiscard]] std::string TitreRogne();
   [[nodiscard]] std::string TexteRogne();
 
-  [[nodiscard]] frmFiches& hote() { return hote_; }
+  [[nodiscard]] frmFichesListe& liste() const { return liste_; }
+  [[nodiscard]] const DescriptionFiches& description() const;
   [[nodiscard]] LigneTexte& titre() { return *titre_; }
   [[nodiscard]] ZoneTexte& texte() { return *texte_; }
 
  private:
-  frmFiches& hote_;
+  frmFichesListe& liste_;
   LigneTexte* titre_;
   ZoneTexte* texte_;
 };

@@ -1,31 +1,27 @@
 #include "fiches/frmFichesSupprimer.h"
 
-#include "controles/Touches.h"
+#include "controles/Focus.h"
 #include "data/ProceduresFichiers.h"
-#include "fiches/frmFiches.h"
 #include "fiches/frmFichesListe.h"
 
 namespace gastrelle {
 
-frmFichesSupprimer::frmFichesSupprimer(frmFiches& hote)
-    : frmFichesSaisie(hote, hote.description().supprimer),
-      cmdSupprimer_(Bouton(QStringLiteral("cmdSupprimer"), QStringLiteral("&Supprimer"),
-                           QStringLiteral("supprimer"),
-                           QString::fromUtf16(hote.description().infobulleSupprimer), this)),
-      cmdAideSupprimer_(BoutonAide(QStringLiteral("cmdAideSupprimer"), this)) {
+frmFichesSupprimer::frmFichesSupprimer(const PlaceOnglet& place, frmFichesListe& liste)
+    : frmFichesSaisie(place, liste, &DescriptionFiches::supprimer),
+      cmdSupprimer_(boutons().Supprime("cmdSupprimer", description().infobulleSupprimer,
+                                       [this] { Supprime(); })),
+      cmdAideSupprimer_(boutons().Aide("cmdAideSupprimer")) {
   titre().RendLectureSeule();
   texte().RendLectureSeule();
-  boutons().addWidget(cmdSupprimer_);
-  boutons().addWidget(cmdAideSupprimer_);
-  connect(cmdSupprimer_, &QPushButton::clicked, this, [this] { Supprime(); });
 }
 
 void frmFichesSupprimer::Entre() {
   Reprend();
-  const ComboListe& combo = *hote().liste().combo;
-  const bool permise = combo.currentIndex() >= 0 && !hote().catalogue().Protegee(combo.Donnee());
+  const ComboListe& combo = *liste().combo;
+  const bool permise =
+      combo.currentIndex() >= 0 && !EstProtegee(description().fichiers, combo.Donnee());
   const QString infobulle =
-      permise ? QString() : QString::fromUtf16(hote().description().infobulleProtegee);
+      permise ? QString() : QString::fromUtf16(description().infobulleProtegee);
   titre().setToolTip(infobulle);
   texte().setToolTip(infobulle);
   PermetSuppression(permise);
@@ -33,7 +29,7 @@ void frmFichesSupprimer::Entre() {
 }
 
 void frmFichesSupprimer::PermetSuppression(bool permise) {
-  switch (hote().description().boutonProtege) {
+  switch (description().boutonProtege) {
     case BoutonProtege::inactif:
       return cmdSupprimer_->setEnabled(permise);
     case BoutonProtege::cache:
@@ -42,17 +38,14 @@ void frmFichesSupprimer::PermetSuppression(bool permise) {
 }
 
 void frmFichesSupprimer::Supprime() {
-  Module1& module = hote().module();
-  if (module.services.messages.Demande(hote().description().questionSupprimer) != Reponse::oui) {
+  if (module().services.messages.Demande(description().questionSupprimer) != Reponse::oui) {
     return;
   }
-  module.services.pointeur.Sablier();
-  Garde(module, [&] {
-    frmFichesListe& liste = hote().liste();
-    hote().catalogue().Supprime(liste.combo->Donnee());
-    liste.Recharge();
-    hote().ChoisitOnglet(FenetreOnglets::ongletListe);
-    liste.combo->Choisit(0);
+  Opere(module(), [&] {
+    SupprimeFiche(module(), description().fichiers, liste().combo->Donnee());
+    liste().Recharge();
+    hote().ChoisitOnglet(ongletListe);
+    liste().combo->Choisit(0);
   });
 }
 

@@ -2,15 +2,13 @@
 // factory are protected.
 #pragma once
 
-#include <QPushButton>
-
 #include "fiches/frmFichesSaisie.h"
 
 namespace gastrelle {
 
 class frmFichesSupprimer final : public frmFichesSaisie {
  public:
-  explicit frmFichesSupprimer(frmFiches& hote);
+  frmFichesSupprimer(const PlaceOnglet& place, frmFichesListe& liste);
 
   /// The entry rule of the tab: what would be deleted, and whether it may be.
   void Entre() override;

@@ -4,34 +4,13 @@
 
 #include "data/Texte1252.h"
 #include "fiches/frmFichesAjouter.h"
-#include "fiches/frmFichesListe.h"
 #include "fiches/frmFichesModifier.h"
 #include "fiches/frmFichesSupprimer.h"
 
 namespace gastrelle {
 namespace {
 
-constexpr std::int16_t contexteBase = 30;
-
-constexpr std::array<DescriptionOnglet, 4> onglets{{
-    {u"Liste", u"Les recettes mémorisées", u"Liste des menus mémorisés", u"Faites votre choix !",
-     "menus-liste", CreePage<frmFiches, frmFichesListe>},
-    {u"Ajouter", u"Ajouter une famille de recettes ou une recette", u"Ajout d'un menu", u"",
-     "menus-ajouter", CreePage<frmFiches, frmFichesAjouter>},
-    {u"Modifier", u"Modifier le nom de la famille de recettes ou une recette",
-     u"Modification d'un menu", u"", "menus-modifier", CreePage<frmFiches, frmFichesModifier>},
-    {u"Supprimer", u"Supprimer la famille de recettes ou la recette", u"Suppression d'un menu", u"",
-     "menus-supprimer", CreePage<frmFiches, frmFichesSupprimer>},
-}};
-
 constexpr DescriptionFiches descriptionMenus{
-    .fenetre = {.nom = "frmMenus",
-                .titre = u"Les menus",
-                .vue = EntreeVue::menus,
-                .contexteBase = contexteBase,
-                .logo = "logo-menus",
-                .onglets = onglets,
-                .refus = {}},
     .fichiers = fichiersMenus,
     .liste = {"ComboMenus", "txtMenu", u"Les menus", u"Le menu",
               u"Choisir dans la liste un menu pour en afficher ci-dessous son détail"},
@@ -51,8 +30,23 @@ constexpr DescriptionFiches descriptionMenus{
     .vue = VueDe<VueMenu>,
 };
 
+constexpr std::array<DescriptionOnglet, 4> onglets{{
+    {u"Liste", u"Les recettes mémorisées", u"Liste des menus mémorisés", u"Faites votre choix !",
+     "menus-liste", CreeListe<descriptionMenus>},
+    {u"Ajouter", u"Ajouter une famille de recettes ou une recette", u"Ajout d'un menu", u"",
+     "menus-ajouter", CreePage<frmFiches, frmFichesAjouter>},
+    {u"Modifier", u"Modifier le nom de la famille de recettes ou une recette",
+     u"Modification d'un menu", u"", "menus-modifier", CreePage<frmFiches, frmFichesModifier>},
+    {u"Supprimer", u"Supprimer la famille de recettes ou la recette", u"Suppression d'un menu", u"",
+     "menus-supprimer", CreePage<frmFiches, frmFichesSupprimer>},
+}};
+
+constexpr DescriptionFenetre fenetre{
+    .nom = "frmMenus", .titre = u"Les menus", .vue = EntreeVue::menus, .logo = "logo-menus"};
+constexpr JeuOnglets jeu{.onglets = onglets, .refus = {}};
+
 }  // namespace
 
-frmMenus::frmMenus(Module1& module, Cadre& cadre) : frmFiches(module, cadre, descriptionMenus) {}
+frmMenus::frmMenus(Module1& module, Cadre& cadre) : frmFiches(module, cadre, fenetre, jeu) {}
 
 }  // namespace gastrelle

@@ -4,38 +4,13 @@
 
 #include "data/Texte1252.h"
 #include "fiches/frmFichesAjouter.h"
-#include "fiches/frmFichesListe.h"
 #include "fiches/frmFichesModifier.h"
 #include "fiches/frmFichesSupprimer.h"
 
 namespace gastrelle {
 namespace {
 
-constexpr std::int16_t contexteBase = 60;
-
-constexpr std::array<DescriptionOnglet, 4> onglets{{
-    {u"Liste", u"Les termes, truc et astuces mémorisés", u"Liste des termes, trucs et astuces",
-     u"Tous les termes, trucs et astuces", "trucs-liste", CreePage<frmFiches, frmFichesListe>},
-    {u"Ajouter", u"Ajouter une famille de recettes ou une recette",
-     u"Ajout d'un terme, truc ou astuce",
-     u"Vous ajoutez un terme, truc ou astuce à la base de données", "trucs-ajouter",
-     CreePage<frmFiches, frmFichesAjouter>},
-    {u"Modifier", u"Modifier le nom de la famille de recettes ou une recette",
-     u"Modification d'un terme, truc ou astuce", u"Vous modifiez le terme, truc ou astuce affiché",
-     "trucs-modifier", CreePage<frmFiches, frmFichesModifier>},
-    {u"Supprimer", u"Supprimer la famille de recettes ou la recette",
-     u"Suppression d'un terme, truc ou astuce", u"Vous supprimez le terme, truc ou astuce affiché",
-     "trucs-supprimer", CreePage<frmFiches, frmFichesSupprimer>},
-}};
-
 constexpr DescriptionFiches descriptionTrucs{
-    .fenetre = {.nom = "frmTrucs",
-                .titre = u"Les termes, trucs et astuces",
-                .vue = EntreeVue::termesTrucsAstuces,
-                .contexteBase = contexteBase,
-                .logo = "logo-trucs",
-                .onglets = onglets,
-                .refus = {}},
     .fichiers = fichiersTrucs,
     .liste = {"ComboTrucs", "txtTruc", u"Les termes, trucs et astuces", u"Le terme, truc ou astuce",
               u"Choisir dans la liste un terme, truc ou astuce pour en afficher ci-dessous son "
@@ -58,8 +33,29 @@ constexpr DescriptionFiches descriptionTrucs{
     .vue = VueDe<VueTruc>,
 };
 
+constexpr std::array<DescriptionOnglet, 4> onglets{{
+    {u"Liste", u"Les termes, truc et astuces mémorisés", u"Liste des termes, trucs et astuces",
+     u"Tous les termes, trucs et astuces", "trucs-liste", CreeListe<descriptionTrucs>},
+    {u"Ajouter", u"Ajouter une famille de recettes ou une recette",
+     u"Ajout d'un terme, truc ou astuce",
+     u"Vous ajoutez un terme, truc ou astuce à la base de données", "trucs-ajouter",
+     CreePage<frmFiches, frmFichesAjouter>},
+    {u"Modifier", u"Modifier le nom de la famille de recettes ou une recette",
+     u"Modification d'un terme, truc ou astuce", u"Vous modifiez le terme, truc ou astuce affiché",
+     "trucs-modifier", CreePage<frmFiches, frmFichesModifier>},
+    {u"Supprimer", u"Supprimer la famille de recettes ou la recette",
+     u"Suppression d'un terme, truc ou astuce", u"Vous supprimez le terme, truc ou astuce affiché",
+     "trucs-supprimer", CreePage<frmFiches, frmFichesSupprimer>},
+}};
+
+constexpr DescriptionFenetre fenetre{.nom = "frmTrucs",
+                                     .titre = u"Les termes, trucs et astuces",
+                                     .vue = EntreeVue::termesTrucsAstuces,
+                                     .logo = "logo-trucs"};
+constexpr JeuOnglets jeu{.onglets = onglets, .refus = {}};
+
 }  // namespace
 
-frmTrucs::frmTrucs(Module1& module, Cadre& cadre) : frmFiches(module, cadre, descriptionTrucs) {}
+frmTrucs::frmTrucs(Module1& module, Cadre& cadre) : frmFiches(module, cadre, fenetre, jeu) {}
 
 }  // namespace gastrelle

@@ -19,8 +19,8 @@ ReferenceTexte Notes(RecFromage& fromage) {
 }
 
 /// The record's own file, and the pool when it is going to be used.
-void ExigeFichiers(Module1& module, bool avecNotes) {
-  ExigeFichier(module, Donnees::GLF1);
+void ExigePourEcrire(Module1& module, bool avecNotes) {
+  ExigeFromages(module);
   if (avecNotes) {
     ExigeFichier(module, Donnees::GLF2);
   }
@@ -45,6 +45,10 @@ Liste ListeCodes(std::span<const std::string_view> noms) {
   return codes;
 }
 
+void ExigeFromages(Module1& module) {
+  ExigeFichier(module, Donnees::GLF1);
+}
+
 Liste ListeFromages(Module1& module) {
   return ListeReparee(module.bufFromage, module.bufFromage.courant());
 }
@@ -56,7 +60,7 @@ Liste FromagesAuLait(Module1& module, std::int16_t lait) {
 }
 
 FromageLu LitFromage(Module1& module, std::int32_t numero) {
-  ExigeFichier(module, Donnees::GLF1);
+  ExigeFromages(module);
   module.bufFromage.LireCourant(numero);
   const RecFromage& fromage = module.bufFromage.courant();
   FromageLu lu;
@@ -72,7 +76,7 @@ FromageLu LitFromage(Module1& module, std::int32_t numero) {
 }
 
 std::int32_t AjouteFromage(Module1& module, const FromageSaisi& saisi) {
-  ExigeFichiers(module, !saisi.notes.empty());
+  ExigePourEcrire(module, !saisi.notes.empty());
   RecFromage& fromage = module.bufFromage.courant();
   AjouteTexte(module.textesFromages, Notes(fromage), saisi.notes);
   PoseChamps(fromage, saisi);
@@ -80,7 +84,7 @@ std::int32_t AjouteFromage(Module1& module, const FromageSaisi& saisi) {
 }
 
 void ChangeFromage(Module1& module, std::int32_t numero, const FromageSaisi& saisi) {
-  ExigeFichiers(module, !saisi.notes.empty());
+  ExigePourEcrire(module, !saisi.notes.empty());
   RecFromage& fromage = module.bufFromage.courant();
   module.textesFromages.Remplace(Notes(fromage), saisi.notes);
   PoseChamps(fromage, saisi);
@@ -88,7 +92,7 @@ void ChangeFromage(Module1& module, std::int32_t numero, const FromageSaisi& sai
 }
 
 void SupprimeFromage(Module1& module, std::int32_t numero) {
-  ExigeFichier(module, Donnees::GLF1);
+  ExigeFromages(module);
   SupprimeEnregistrement(module.bufFromage, numero);
 }
 

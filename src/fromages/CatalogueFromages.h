@@ -16,9 +16,7 @@
 
 namespace gastrelle {
 
-inline constexpr int limiteNomFromage = 128;  ///< in characters
-inline constexpr int limiteRegionFromage = 64;
-inline constexpr int limiteNotesFromage = 30000;
+inline constexpr int limiteRegionFromage = 64;  ///< in characters
 
 /// Number of the last cheese that can't be deleted: those of the factory.
 inline constexpr std::int32_t dernierFromageProtege = DernierProtege(Donnees::GLF1);
@@ -31,6 +29,9 @@ inline constexpr std::array<std::string_view, 13> moisNoms{
 
 /// The entries of a list of codes, each bearing its code.
 Liste ListeCodes(std::span<const std::string_view> noms);
+
+/// The cheeses' file must still be there (the user is told when it isn't).
+void ExigeFromages(Module1& module);
 
 /// All live cheeses, through the working record; the header's count is then put right.
 Liste ListeFromages(Module1& module);

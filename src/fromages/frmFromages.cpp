@@ -2,8 +2,6 @@
 
 #include <array>
 
-#include "data/ProceduresFichiers.h"
-#include "fromages/CatalogueFromages.h"
 #include "fromages/frmFromagesAjouter.h"
 #include "fromages/frmFromagesListe.h"
 #include "fromages/frmFromagesModifier.h"
@@ -33,35 +31,26 @@ constexpr std::array<DescriptionOnglet, 5> onglets{{
 // cheese on display.
 constexpr std::array<ChangementRefuse, 2> refus{{{5, 3}, {5, 4}}};
 
-constexpr std::int16_t contexteBase = 20;
-constexpr bool razReduite = true;
-constexpr bool ligneDuLogo = true;
-
-constexpr DescriptionFenetre description{"frmFromages", u"Les fromages", EntreeVue::fromages,
-                                         contexteBase,  "logo-fromages", onglets,
-                                         refus,         razReduite,      ligneDuLogo};
+constexpr DescriptionFenetre fenetre{.nom = "frmFromages",
+                                     .titre = u"Les fromages",
+                                     .vue = EntreeVue::fromages,
+                                     .logo = "logo-fromages",
+                                     .razReduite = true};
+constexpr JeuOnglets jeu{.onglets = onglets, .refus = refus, .ligneDuLogo = true};
 
 }  // namespace
 
 frmFromages::frmFromages(Module1& module, Cadre& cadre)
-    : FenetreOnglets(module, cadre, description),
-      liste_(static_cast<frmFromagesListe&>(Page(ongletListe))) {
-  Garde(module, [&] {
-    ExigeFichier(module, Donnees::GLF1);
-    RechargeFromages();
-  });
-  liste_.ComboFromages->Choisit(0);
+    : FenetreOnglets(module, cadre, fenetre, jeu) {
+  liste().Charge();
 }
 
-void frmFromages::RechargeFromages() {
-  liste_.ComboFromages->Vide();
-  liste_.ComboFromages->Ajoute(ListeFromages(module()));
+frmFromagesListe& frmFromages::liste() {
+  return static_cast<frmFromagesListe&>(Page(ongletListe));
 }
 
-void frmFromages::MontreFromage(std::int32_t numero) {
-  const int indice = liste_.ComboFromages->IndiceDe(numero);
-  ChoisitOnglet(ongletListe);
-  liste_.ComboFromages->Choisit(indice);
+void frmFromages::MontreEnregistrement(std::int32_t numero) {
+  MontreDansListe(*liste().ComboFromages, numero);
 }
 
 std::string frmFromages::Annonce() {

@@ -1,4 +1,4 @@
-// The cheeses window: the host of its five pages, and what they share.
+// The cheeses window: the table of its five tabs.
 #pragma once
 
 #include "controles/FenetreOnglets.h"
@@ -13,17 +13,12 @@ class frmFromages final : public FenetreOnglets {
   frmFromages(Module1& module, Cadre& cadre);
 
   /// The tab on which the cheese of the whole window is selected.
-  [[nodiscard]] frmFromagesListe& liste() { return liste_; }
-  /// Empties the list of cheeses and fills it again. Throws on a failure.
-  void RechargeFromages();
-  /// Goes to the list and selects a cheese there; error 53 if the list doesn't hold it.
-  void MontreFromage(std::int32_t numero);
+  [[nodiscard]] frmFromagesListe& liste();
+
+  void MontreEnregistrement(std::int32_t numero) override;
 
  protected:
   [[nodiscard]] std::string Annonce() override;
-
- private:
-  frmFromagesListe& liste_;
 };
 
 }  // namespace gastrelle

@@ -1,11 +1,10 @@
 #include "fromages/frmFromagesAffichage.h"
 
-#include "fromages/frmFromages.h"
-
 namespace gastrelle {
 
-frmFromagesAffichage::frmFromagesAffichage(frmFromages& hote, const QString& suffixe, QWidget* nom)
-    : frmFromagesPage(hote),
+frmFromagesAffichage::frmFromagesAffichage(const PlaceOnglet& place, const QString& suffixe,
+                                           QWidget* nom)
+    : frmFromagesPage(place),
       txtRegion(new LigneTexte(QStringLiteral("txtRegion") + suffixe, sansLimite, this)),
       txtLait(new LigneTexte(QStringLiteral("txtLait") + suffixe, sansLimite, this)),
       txtPremierMois(new LigneTexte(QStringLiteral("txtPremierMois") + suffixe, sansLimite, this)),

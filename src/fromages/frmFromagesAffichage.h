@@ -17,7 +17,7 @@ class frmFromagesAffichage : public frmFromagesPage {
 
  protected:
   /// `suffixe` ends the names of the boxes; `nom` is the control that tells the cheese.
-  frmFromagesAffichage(frmFromages& hote, const QString& suffixe, QWidget* nom);
+  frmFromagesAffichage(const PlaceOnglet& place, const QString& suffixe, QWidget* nom);
 
   void Montre(const FromageLu& fromage);
   /// Takes the texts of another page.

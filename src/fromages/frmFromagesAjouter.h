@@ -5,9 +5,11 @@
 
 namespace gastrelle {
 
+class frmFromagesListe;
+
 class frmFromagesAjouter final : public frmFromagesSaisie {
  public:
-  explicit frmFromagesAjouter(frmFromages& hote);
+  frmFromagesAjouter(const PlaceOnglet& place, frmFromagesListe& liste);
 
   /// The entry rule of the tab: nothing is entered yet.
   void Entre() override;
@@ -15,6 +17,8 @@ class frmFromagesAjouter final : public frmFromagesSaisie {
  private:
   void Valide();
   void Efface();
+
+  frmFromagesListe& liste_;
 };
 
 }  // namespace gastrelle

@@ -1,25 +1,35 @@
 #include "fromages/frmFromagesListe.h"
 
-#include "controles/Touches.h"
+#include "controles/Focus.h"
 #include "data/ProceduresFichiers.h"
-#include "fromages/frmFromages.h"
 
 namespace gastrelle {
 
-frmFromagesListe::frmFromagesListe(frmFromages& hote)
-    : frmFromagesListe(hote, new ComboListe(QStringLiteral("ComboFromages"), Ordre::alphabetique)) {
-}
+frmFromagesListe::frmFromagesListe(const PlaceOnglet& place)
+    : frmFromagesListe(place,
+                       new ComboListe(QStringLiteral("ComboFromages"), Ordre::alphabetique)) {}
 
-frmFromagesListe::frmFromagesListe(frmFromages& hote, ComboListe* fromages)
-    : frmFromagesAffichage(hote, {}, fromages), ComboFromages(fromages) {
-  boutons().addWidget(BoutonAide(QStringLiteral("cmdAideListe"), this));
+frmFromagesListe::frmFromagesListe(const PlaceOnglet& place, ComboListe* fromages)
+    : frmFromagesAffichage(place, {}, fromages), ComboFromages(fromages) {
+  boutons().Aide("cmdAideListe");
   ComboFromages->surChoix = [this] { AfficheFromage(); };
 }
 
+void frmFromagesListe::Charge() {
+  Garde(module(), [&] {
+    ExigeFromages(module());
+    Recharge();
+  });
+  ComboFromages->Choisit(0);
+}
+
+void frmFromagesListe::Recharge() {
+  ComboFromages->Vide();
+  ComboFromages->Ajoute(ListeFromages(module()));
+}
+
 void frmFromagesListe::AfficheFromage() {
-  Module1& module = hote().module();
-  module.services.pointeur.Sablier();
-  Garde(module, [&] { Montre(LitFromage(module, ComboFromages->Donnee())); });
+  Opere(module(), [&] { Montre(LitFromage(module(), ComboFromages->Donnee())); });
   Entre();
 }
 

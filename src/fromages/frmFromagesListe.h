@@ -10,10 +10,14 @@ namespace gastrelle {
 
 class frmFromagesListe final : public frmFromagesAffichage {
  public:
-  explicit frmFromagesListe(frmFromages& hote);
+  explicit frmFromagesListe(const PlaceOnglet& place);
 
   ComboListe* ComboFromages;
 
+  /// Fills the list of cheeses and shows the first one.
+  void Charge();
+  /// Empties the list of cheeses and fills it again. Throws on a failure.
+  void Recharge();
   /// Name of the selected cheese, trimmed; empty without one.
   [[nodiscard]] std::string Nom() const;
   [[nodiscard]] Vue VueCourante() const override;
@@ -21,7 +25,7 @@ class frmFromagesListe final : public frmFromagesAffichage {
   void Entre() override;
 
  private:
-  frmFromagesListe(frmFromages& hote, ComboListe* fromages);
+  frmFromagesListe(const PlaceOnglet& place, ComboListe* fromages);
   void AfficheFromage();
 };
 

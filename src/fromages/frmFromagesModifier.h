@@ -5,9 +5,11 @@
 
 namespace gastrelle {
 
+class frmFromagesListe;
+
 class frmFromagesModifier final : public frmFromagesSaisie {
  public:
-  explicit frmFromagesModifier(frmFromages& hote);
+  frmFromagesModifier(const PlaceOnglet& place, frmFromagesListe& liste);
 
   /// The entry rule of the tab: the fields take the cheese on display.
   void Entre() override;
@@ -15,7 +17,8 @@ class frmFromagesModifier final : public frmFromagesSaisie {
  private:
   void Valide();
   [[nodiscard]] bool NomDejaDonne(const std::string& nom);
-  void Enregistre();
+
+  frmFromagesListe& liste_;
 };
 
 }  // namespace gastrelle

@@ -1,6 +1,6 @@
 #include "fromages/frmFromagesPage.h"
 
-#include "fromages/frmFromages.h"
+#include "controles/Focus.h"
 
 namespace gastrelle {
 namespace {
@@ -8,8 +8,6 @@ namespace {
 constexpr int lettresCode = 24;  ///< width of a milk or a month, with the arrow of its list
 
 }  // namespace
-
-frmFromagesPage::frmFromagesPage(frmFromages& hote) : PageOnglet(hote), hote_(hote) {}
 
 void frmFromagesPage::Dispose(const ChampsFromage& champs) {
   Rang(QStringLiteral("Le fromage"), champs.nom);

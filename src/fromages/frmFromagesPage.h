@@ -8,8 +8,6 @@
 
 namespace gastrelle {
 
-class frmFromages;
-
 /// The controls of a page, field by field.
 struct ChampsFromage {
   QWidget* nom;
@@ -22,17 +20,14 @@ struct ChampsFromage {
 
 class frmFromagesPage : public PageOnglet {
  protected:
-  explicit frmFromagesPage(frmFromages& hote);
+  using PageOnglet::PageOnglet;
 
   /// Puts the fields on the page, each beside its caption; the notes take the room that is left.
   void Dispose(const ChampsFromage& champs);
-  [[nodiscard]] frmFromages& hote() { return hote_; }
 
  private:
   /// A row whose controls keep their own width.
   void RangCourt(QLabel* legende, std::initializer_list<QWidget*> controles);
-
-  frmFromages& hote_;
 };
 
 }  // namespace gastrelle

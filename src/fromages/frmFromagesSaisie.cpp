@@ -1,7 +1,7 @@
 #include "fromages/frmFromagesSaisie.h"
 
 #include "data/FichierEnregistrements.h"
-#include "fromages/frmFromages.h"
+#include "data/Limites.h"
 
 namespace gastrelle {
 namespace {
@@ -19,14 +19,14 @@ std::int16_t Code(const ComboListe& liste) {
 
 }  // namespace
 
-frmFromagesSaisie::frmFromagesSaisie(frmFromages& hote, const QString& suffixe)
-    : frmFromagesPage(hote),
-      txtFromage(new LigneTexte(QStringLiteral("txtFromage") + suffixe, limiteNomFromage, this)),
+frmFromagesSaisie::frmFromagesSaisie(const PlaceOnglet& place, const QString& suffixe)
+    : frmFromagesPage(place),
+      txtFromage(new LigneTexte(QStringLiteral("txtFromage") + suffixe, limiteNom, this)),
       txtRegion(new LigneTexte(QStringLiteral("txtRegion") + suffixe, limiteRegionFromage, this)),
       ComboLait(Codes(QStringLiteral("ComboLait") + suffixe, laitNoms, this)),
       ComboPremierMois(Codes(QStringLiteral("ComboPremierMois") + suffixe, moisNoms, this)),
       ComboDernierMois(Codes(QStringLiteral("ComboDernierMois") + suffixe, moisNoms, this)),
-      txtNotes(new ZoneTexte(QStringLiteral("txtNotes") + suffixe, limiteNotesFromage, this)) {
+      txtNotes(new ZoneTexte(QStringLiteral("txtNotes") + suffixe, limiteTexte, this)) {
   Dispose({txtFromage, txtRegion, ComboLait, ComboPremierMois, ComboDernierMois, txtNotes});
 }
 

@@ -11,7 +11,7 @@ namespace gastrelle {
 class frmFromagesSaisie : public frmFromagesPage {
  protected:
   /// `suffixe` ends the names of the controls.
-  frmFromagesSaisie(frmFromages& hote, const QString& suffixe);
+  frmFromagesSaisie(const PlaceOnglet& place, const QString& suffixe);
 
   /// Trims the region and the notes in their boxes; answers all that was entered.
   [[nodiscard]] FromageSaisi Saisi();

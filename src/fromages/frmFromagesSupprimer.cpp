@@ -1,34 +1,30 @@
 #include "fromages/frmFromagesSupprimer.h"
 
-#include "controles/Touches.h"
+#include "controles/Focus.h"
 #include "data/ProceduresFichiers.h"
-#include "fromages/frmFromages.h"
 #include "fromages/frmFromagesListe.h"
 
 namespace gastrelle {
 
-frmFromagesSupprimer::frmFromagesSupprimer(frmFromages& hote)
-    : frmFromagesSupprimer(hote,
+frmFromagesSupprimer::frmFromagesSupprimer(const PlaceOnglet& place, frmFromagesListe& liste)
+    : frmFromagesSupprimer(place, liste,
                            new LigneTexte(QStringLiteral("txtFromageSupprimer"), sansLimite)) {}
 
-frmFromagesSupprimer::frmFromagesSupprimer(frmFromages& hote, LigneTexte* fromage)
-    : frmFromagesAffichage(hote, QStringLiteral("Supprimer"), fromage),
+frmFromagesSupprimer::frmFromagesSupprimer(const PlaceOnglet& place, frmFromagesListe& liste,
+                                           LigneTexte* fromage)
+    : frmFromagesAffichage(place, QStringLiteral("Supprimer"), fromage),
+      liste_(liste),
       txtFromage_(fromage),
-      cmdSupprimer_(Bouton(QStringLiteral("cmdSupprimer"), QStringLiteral("&Supprimer"),
-                           QStringLiteral("supprimer"),
-                           QStringLiteral("Supprimer le fromage affiché"), this)),
-      cmdAideSupprimer_(BoutonAide(QStringLiteral("cmdAideSupprimer"), this)) {
+      cmdSupprimer_(boutons().Supprime("cmdSupprimer", u"Supprimer le fromage affiché",
+                                       [this] { Supprime(); })),
+      cmdAideSupprimer_(boutons().Aide("cmdAideSupprimer")) {
   txtFromage_->RendLectureSeule();
-  boutons().addWidget(cmdSupprimer_);
-  boutons().addWidget(cmdAideSupprimer_);
-  connect(cmdSupprimer_, &QPushButton::clicked, this, [this] { Supprime(); });
 }
 
 void frmFromagesSupprimer::Entre() {
-  const frmFromagesListe& liste = hote().liste();
-  txtFromage_->PoseTexte(liste.Nom());
-  Reprend(liste);
-  const ComboListe& fromages = *liste.ComboFromages;
+  txtFromage_->PoseTexte(liste_.Nom());
+  Reprend(liste_);
+  const ComboListe& fromages = *liste_.ComboFromages;
   Protege(fromages.currentIndex() < 0 || fromages.Donnee() <= dernierFromageProtege);
 }
 
@@ -44,18 +40,15 @@ void frmFromagesSupprimer::Protege(bool protege) {
 }
 
 void frmFromagesSupprimer::Supprime() {
-  Module1& module = hote().module();
-  if (module.services.messages.Demande("Etes-vous sûr de vouloir supprimer ce fromage ?"_1252) !=
+  if (module().services.messages.Demande("Etes-vous sûr de vouloir supprimer ce fromage ?"_1252) !=
       Reponse::oui) {
     return;
   }
-  module.services.pointeur.Sablier();
-  Garde(module, [&] {
-    ComboListe& fromages = *hote().liste().ComboFromages;
-    SupprimeFromage(module, fromages.Donnee());
-    hote().RechargeFromages();
-    hote().ChoisitOnglet(FenetreOnglets::ongletListe);
-    fromages.Choisit(0);
+  Opere(module(), [&] {
+    SupprimeFromage(module(), liste_.ComboFromages->Donnee());
+    liste_.Recharge();
+    hote().ChoisitOnglet(ongletListe);
+    liste_.ComboFromages->Choisit(0);
   });
 }
 

@@ -6,18 +6,21 @@
 
 namespace gastrelle {
 
+class frmFromagesListe;
+
 class frmFromagesSupprimer final : public frmFromagesAffichage {
  public:
-  explicit frmFromagesSupprimer(frmFromages& hote);
+  frmFromagesSupprimer(const PlaceOnglet& place, frmFromagesListe& liste);
 
   /// The entry rule of the tab: what would be deleted, and whether it may be.
   void Entre() override;
 
  private:
-  frmFromagesSupprimer(frmFromages& hote, LigneTexte* fromage);
+  frmFromagesSupprimer(const PlaceOnglet& place, frmFromagesListe& liste, LigneTexte* fromage);
   void Protege(bool protege);
   void Supprime();
 
+  frmFromagesListe& liste_;
   LigneTexte* txtFromage_;
   QPushButton* cmdSupprimer_;
   QPushButton* cmdAideSupprimer_;

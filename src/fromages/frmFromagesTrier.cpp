@@ -1,47 +1,41 @@
 #include "fromages/frmFromagesTrier.h"
 
+#include "controles/Focus.h"
 #include "controles/Icones.h"
-#include "controles/Touches.h"
-#include "controles/ZoneTexte.h"
 #include "data/ProceduresFichiers.h"
 #include "fromages/CatalogueFromages.h"
-#include "fromages/frmFromages.h"
 #include "fromages/frmFromagesListe.h"
 
 namespace gastrelle {
 namespace {
 
-constexpr int taillePicture = 192;
-
-QLabel* Picture(const QString& nom, const QString& icone, QWidget* parent) {
+QLabel* Dessin(const QString& nom, const QString& icone, QWidget* parent) {
   auto* image = new QLabel(parent);
   image->setObjectName(nom);
-  image->setPixmap(IconeDe(icone).pixmap(taillePicture, taillePicture));
+  image->setPixmap(IconeDe(icone).pixmap(plusGrandeIcone, plusGrandeIcone));
   image->setAlignment(Qt::AlignCenter);
   return image;
 }
 
 }  // namespace
 
-frmFromagesTrier::frmFromagesTrier(frmFromages& hote)
-    : PageOnglet(hote),
-      hote_(hote),
+frmFromagesTrier::frmFromagesTrier(const PlaceOnglet& place, frmFromagesListe& liste)
+    : PageOnglet(place),
+      liste_(liste),
       ComboLaitTrier_(new ComboListe(QStringLiteral("ComboLaitTrier"), Ordre::insertion, this)),
       List1_(new ListeChoix(QStringLiteral("List1"), Ordre::alphabetique, this)),
-      PictureSouris_(Picture(QStringLiteral("PictureSouris"), QStringLiteral("souris"), this)),
+      PictureSouris_(Dessin(QStringLiteral("PictureSouris"), QStringLiteral("souris"), this)),
       PictureAnimal_{
-          Picture(QStringLiteral("PictureAnimal(0)"), QStringLiteral("animal-vache"), this),
-          Picture(QStringLiteral("PictureAnimal(1)"), QStringLiteral("animal-chevre"), this),
-          Picture(QStringLiteral("PictureAnimal(2)"), QStringLiteral("animal-brebis"), this)},
-      cmdActiver_(Bouton(QStringLiteral("cmdActiver"), QStringLiteral("Affi&cher"),
-                         QStringLiteral("valider"),
-                         QStringLiteral("Afficher le fromage sélectionné"), this)) {
+          Dessin(QStringLiteral("PictureAnimal(0)"), QStringLiteral("animal-vache"), this),
+          Dessin(QStringLiteral("PictureAnimal(1)"), QStringLiteral("animal-chevre"), this),
+          Dessin(QStringLiteral("PictureAnimal(2)"), QStringLiteral("animal-brebis"), this)},
+      cmdActiver_(boutons().Affiche("cmdActiver", u"Afficher le fromage sélectionné",
+                                    [this] { AfficheSelection(); })) {
   Dispose();
   ComboLaitTrier_->Ajoute(ListeCodes(laitNoms));
   MontreListe(0);
   ComboLaitTrier_->surChoix = [this] { ChoisitLait(); };
   List1_->surDoubleClic = [this] { AfficheSelection(); };
-  connect(cmdActiver_, &QPushButton::clicked, this, [this] { AfficheSelection(); });
 }
 
 void frmFromagesTrier::Dispose() {
@@ -61,8 +55,7 @@ void frmFromagesTrier::Dispose() {
   contenu().addLayout(choix, 0, 0);
   contenu().addLayout(page, 1, 0);
   contenu().setRowStretch(1, 1);
-  boutons().addWidget(cmdActiver_);
-  boutons().addWidget(BoutonAide(QStringLiteral("cmdAide"), this));
+  boutons().Aide("cmdAide");
 }
 
 void frmFromagesTrier::Entre() {
@@ -80,7 +73,6 @@ void frmFromagesTrier::MontreListe(int lait) {
 }
 
 void frmFromagesTrier::ChoisitLait() {
-  Module1& module = hote_.module();
   List1_->Vide();
   MontreListe(0);
   const int lait = ComboLaitTrier_->currentIndex();
@@ -88,10 +80,9 @@ void frmFromagesTrier::ChoisitLait() {
     DonneFocus(ComboLaitTrier_);
     return;
   }
-  module.services.pointeur.Sablier();
-  Garde(module, [&] { List1_->Ajoute(FromagesAuLait(module, Tenu<std::int16_t>(lait))); });
+  Opere(module(), [&] { List1_->Ajoute(FromagesAuLait(module(), Tenu<std::int16_t>(lait))); });
   if (List1_->entrees().empty()) {
-    module.services.messages.Informe("Aucun fromage mémorisé"_1252, Icone::aucune);
+    module().services.messages.Informe("Aucun fromage mémorisé"_1252, Icone::aucune);
     DonneFocus(ComboLaitTrier_);
     return;
   }
@@ -100,13 +91,8 @@ void frmFromagesTrier::ChoisitLait() {
 }
 
 void frmFromagesTrier::AfficheSelection() {
-  if (List1_->indice() < 0) {
-    return;
-  }
-  ComboListe& fromages = *hote_.liste().ComboFromages;
-  if (const auto indice = fromages.modele().IndiceDe(List1_->Donnee())) {
-    hote_.ChoisitOnglet(FenetreOnglets::ongletListe);
-    fromages.Choisit(*indice);
+  if (List1_->indice() >= 0 && liste_.ComboFromages->modele().IndiceDe(List1_->Donnee())) {
+    hote().MontreEnregistrement(List1_->Donnee());
   }
 }
 

@@ -6,15 +6,14 @@
 #include "controles/ComboListe.h"
 #include "controles/ListeChoix.h"
 #include "controles/PageOnglet.h"
-#include "data/Vues.h"
 
 namespace gastrelle {
 
-class frmFromages;
+class frmFromagesListe;
 
 class frmFromagesTrier final : public PageOnglet {
  public:
-  explicit frmFromagesTrier(frmFromages& hote);
+  frmFromagesTrier(const PlaceOnglet& place, frmFromagesListe& liste);
 
   [[nodiscard]] Vue VueCourante() const override;
   /// The entry rule of the tab: no milk is chosen yet.
@@ -27,7 +26,7 @@ class frmFromagesTrier final : public PageOnglet {
   void MontreListe(int lait);
   void AfficheSelection();
 
-  frmFromages& hote_;
+  frmFromagesListe& liste_;
   ComboListe* ComboLaitTrier_;
   ListeChoix* List1_;
   QLabel* PictureSouris_;

@@ -8,6 +8,7 @@
 #include <QPainter>
 #include <QPushButton>
 
+#include "controles/Boutons.h"
 #include "controles/Conversion.h"
 #include "controles/Touches.h"
 #include "maintenance/Preferences.h"

@@ -3,6 +3,7 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
+#include "controles/Boutons.h"
 #include "controles/Conversion.h"
 #include "controles/Touches.h"
 #include "controles/ZoneTexte.h"

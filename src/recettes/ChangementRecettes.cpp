@@ -22,10 +22,21 @@ void PoseNoms(RecRecette& recette, const RecetteSaisie& saisie) {
 }  // namespace
 
 std::int32_t AjouteFamille(Module1& module, std::string_view nom) {
+  ExigeFichier(module, Donnees::GLR1);
   RecFamille& famille = module.bufFamille.courant();
   famille.actif = vivant;
   famille.nomFamille = nom;
   return AjouteCourant(module.bufFamille);
+}
+
+void ExigePourAjout(Module1& module, bool avecTexte, bool avecImage) {
+  ExigeFichier(module, Donnees::GLR2);
+  if (avecTexte) {
+    ExigeFichier(module, Donnees::GLR3);
+  }
+  if (avecImage) {
+    ExigeFichier(module, Donnees::GLR4);
+  }
 }
 
 std::int32_t AjouteRecette(Module1& module, const RecetteSaisie& saisie) {
@@ -65,6 +76,8 @@ bool TitreDansAutreFamille(Module1& module, std::int32_t familleActuelle, std::i
 }
 
 void SupprimeFamille(Module1& module, std::int32_t numero, std::span<const EntreeListe> recettes) {
+  ExigeFichier(module, Donnees::GLR1);
+  ExigeFichier(module, Donnees::GLR2);
   for (const EntreeListe& recette : recettes) {
     Efface(module.bufRecette, recette.donnee);
   }
@@ -75,6 +88,7 @@ void SupprimeFamille(Module1& module, std::int32_t numero, std::span<const Entre
 }
 
 void SupprimeRecette(Module1& module, std::int32_t numero) {
+  ExigeFichier(module, Donnees::GLR2);
   SupprimeEnregistrement(module.bufRecette, numero);
 }
 

@@ -13,8 +13,6 @@
 
 namespace gastrelle {
 
-inline constexpr int limiteTitre = 128;  ///< of a recipe or a family, in characters
-
 /// The first record of families and of recipes can't be deleted: each file keeps a live record.
 inline constexpr std::int32_t numeroProtege = DernierProtege(Donnees::GLR2);
 static_assert(numeroProtege == DernierProtege(Donnees::GLR1));
@@ -22,13 +20,17 @@ static_assert(numeroProtege == DernierProtege(Donnees::GLR1));
 /// What the user entered for a recipe; all texts are trimmed.
 struct RecetteSaisie {
   std::int32_t idFamille = 0;
-  std::string_view titre;
-  std::string_view texte;
-  std::string_view image;  ///< as it goes into the pool of picture paths
+  std::string titre;
+  std::string texte;
+  std::string image;  ///< as it goes into the pool of picture paths
 };
 
-/// Puts a new family behind the last record. Returns its number.
+/// Puts a new family behind the last record; their file must still be there. Returns its number.
 std::int32_t AjouteFamille(Module1& module, std::string_view nom);
+
+/// The files that AjouteRecette is going to write must still be there (the user is told when one
+/// isn't): a pool only if there is a text or a picture to put into it.
+void ExigePourAjout(Module1& module, bool avecTexte, bool avecImage);
 
 /// Puts a new recipe behind the last record. Returns its number.
 std::int32_t AjouteRecette(Module1& module, const RecetteSaisie& saisie);
@@ -46,10 +48,10 @@ void ChangeRecette(Module1& module, std::int32_t numero, const RecetteSaisie& sa
 [[nodiscard]] bool TitreDansAutreFamille(Module1& module, std::int32_t familleActuelle,
                                          std::int32_t famille, std::string_view titre);
 
-/// Deletes a family and the recipes listed for it.
+/// Deletes a family and the recipes listed for it. Both files must still be there.
 void SupprimeFamille(Module1& module, std::int32_t numero, std::span<const EntreeListe> recettes);
 
-/// Deletes a recipe.
+/// Deletes a recipe; its file must still be there.
 void SupprimeRecette(Module1& module, std::int32_t numero);
 
 }  // namespace gastrelle

@@ -1,5 +1,6 @@
 #include "recettes/LectureRecettes.h"
 
+#include "data/Limites.h"
 #include "data/ListeVivants.h"
 #include "data/ProceduresFichiers.h"
 
@@ -21,25 +22,25 @@ void LitImage(Module1& module, std::int32_t numero, RecetteLue& lue) {
 
 }  // namespace
 
+void ExigeFamilles(Module1& module) {
+  ExigeFichier(module, Donnees::GLR1);
+}
+
 Liste ListeFamilles(Module1& module) {
   Liste familles;
   AjouteVivants(module.bufFamille, module.bufFamille.courant(), familles);
   return familles;
 }
 
-ListeComptee RecettesDeFamille(Module1& module, std::int32_t idFamille) {
+Liste RecettesDeFamille(Module1& module, std::int32_t idFamille) {
   ExigeFichier(module, Donnees::GLR2);
-  ListeComptee recettes;
-  recettes.vus = AjouteVivants(module.bufRecette, module.bufRecette.courant(), recettes.liste,
-                               [&](const RecRecette& r) { return r.idFamille == idFamille; });
-  return recettes;
+  return ListeReparee(module.bufRecette, module.bufRecette.courant(),
+                      [&](const RecRecette& r) { return r.idFamille == idFamille; });
 }
 
-ListeComptee ToutesRecettes(Module1& module) {
+Liste ToutesRecettes(Module1& module) {
   ExigeFichier(module, Donnees::GLR2);
-  ListeComptee recettes;
-  recettes.vus = AjouteVivants(module.bufRecette, module.bufRecette.courant(), recettes.liste);
-  return recettes;
+  return ListeReparee(module.bufRecette, module.bufRecette.courant());
 }
 
 RecetteLue LitRecette(Module1& module, std::int32_t numero) {
@@ -50,13 +51,21 @@ RecetteLue LitRecette(Module1& module, std::int32_t numero) {
   const RecRecette& recette = module.bufRecette.courant();
   RecetteLue lue;
   if (recette.posTexte >= 1) {
-    lue.texte = module.textesRecettes.Lire(recette.posTexte, recette.lgTexte, limiteTexteRecette);
+    lue.texte = module.textesRecettes.Lire(recette.posTexte, recette.lgTexte, limiteTexte);
   }
   lue.associee = recette.posImage != 0;
   if (lue.associee) {
     LitImage(module, numero, lue);
   }
   return lue;
+}
+
+RecRecette LitEnregistrementRecette(Module1& module, std::int32_t numero) {
+  ExigeFichier(module, Donnees::GLR2);
+  ExigeFichier(module, Donnees::GLR3);
+  RecRecette recette;
+  module.bufRecette.Lire(numero, recette);
+  return recette;
 }
 
 }  // namespace gastrelle

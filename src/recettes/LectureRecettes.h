@@ -11,25 +11,19 @@
 
 namespace gastrelle {
 
-/// How much of a recipe's text is shown, in bytes.
-inline constexpr std::int32_t limiteTexteRecette = 30000;
-
-/// A list and the number of live records that the scan saw on its way.
-struct ListeComptee {
-  Liste liste;
-  std::int16_t vus = 0;
-};
+/// The families' file must still be there (the user is told when it isn't). Throws if it isn't.
+void ExigeFamilles(Module1& module);
 
 /// All live families, through the working record. The scan stops at the header's count, or quietly
-/// at the last record, and repairs nothing. Throws on a failure.
+/// at the last record, repairs nothing and asks for no file. Throws on a failure.
 Liste ListeFamilles(Module1& module);
 
-/// The live recipes of a family, through the working record. The file must still be there (the user
-/// is told when it isn't). The header's count is not repaired here. Throws on a failure.
-ListeComptee RecettesDeFamille(Module1& module, std::int32_t idFamille);
+/// The live recipes of a family, through the working record; the header's count is then put right.
+/// The file must still be there (the user is told when it isn't). Throws on a failure.
+Liste RecettesDeFamille(Module1& module, std::int32_t idFamille);
 
 /// All live recipes, under the same rules.
-ListeComptee ToutesRecettes(Module1& module);
+Liste ToutesRecettes(Module1& module);
 
 /// What a recipe shows.
 struct RecetteLue {
@@ -44,5 +38,9 @@ struct RecetteLue {
 /// that is gone loses its association for good: the record is written back without it. The three
 /// files must still be there (the user is told when one isn't). Throws on a failure.
 RecetteLue LitRecette(Module1& module, std::int32_t numero);
+
+/// The record of a recipe, read beside the working record. The recipes and their texts must still
+/// be there (the user is told when they aren't). Throws on a failure.
+RecRecette LitEnregistrementRecette(Module1& module, std::int32_t numero);
 
 }  // namespace gastrelle

@@ -2,10 +2,6 @@
 
 #include <array>
 
-#include "controles/Conversion.h"
-#include "data/ProceduresFichiers.h"
-#include "recettes/ImageRecette.h"
-#include "recettes/LectureRecettes.h"
 #include "recettes/frmRecettesAjouter.h"
 #include "recettes/frmRecettesAlpha.h"
 #include "recettes/frmRecettesListe.h"
@@ -39,64 +35,26 @@ constexpr std::array<DescriptionOnglet, 5> onglets{{
 // start from a recipe on display.
 constexpr std::array<ChangementRefuse, 2> refus{{{5, 3}, {5, 4}}};
 
-constexpr std::int16_t contexteBase = 10;
-
-constexpr DescriptionFenetre description{"frmRecettes", u"Les recettes", EntreeVue::recettes,
-                                         contexteBase,  "logo-recettes", onglets,
-                                         refus};
+constexpr DescriptionFenetre fenetre{.nom = "frmRecettes",
+                                     .titre = u"Les recettes",
+                                     .vue = EntreeVue::recettes,
+                                     .logo = "logo-recettes"};
+constexpr JeuOnglets jeu{.onglets = onglets, .refus = refus};
 
 }  // namespace
 
 frmRecettes::frmRecettes(Module1& module, Cadre& cadre)
-    : FenetreOnglets(module, cadre, description),
-      liste_(static_cast<frmRecettesListe&>(Page(ongletListe))) {
-  ExigeFichierOuFin(module, Donnees::GLR1);
-  ChargeFamilles();
-  liste_.ComboFamilles->Choisit(0);
+    : FenetreOnglets(module, cadre, fenetre, jeu) {
+  liste().Charge();
 }
 
-void frmRecettes::SuitFamilles(ComboListe& combo) {
-  if (!familles_.empty()) {
-    combo.Ajoute(familles_.front()->entrees());
-  }
-  familles_.push_back(&combo);
+frmRecettesListe& frmRecettes::liste() {
+  return static_cast<frmRecettesListe&>(Page(ongletListe));
 }
 
-void frmRecettes::ChargeFamilles() {
-  Garde(module(), [&] {
-    const Liste familles = ListeFamilles(module());
-    for (ComboListe* combo : familles_) {
-      combo->Ajoute(familles);
-    }
-  });
-}
-
-void frmRecettes::RechargeFamilles() {
-  for (ComboListe* combo : familles_) {
-    combo->Vide();
-  }
-  ChargeFamilles();
-}
-
-bool frmRecettes::AccepteImage(std::string_view chemin) {
-  Services& services = module().services;
-  switch (GenreDe(chemin)) {
-    case GenreImage::refuse:
-      services.pointeur.Normal();
-      services.messages.Bip();
-      services.messages.Informe("Ce fichier n'est pas un fichier image."_1252, Icone::information);
-      return false;
-    case GenreImage::autre:
-      services.pointeur.Normal();
-      services.messages.Informe(
-          "Ce type de fichier ne sera pas affichable par le visualisateur interne d'images."_1252,
-          Icone::information);
-      services.pointeur.Sablier();
-      return true;
-    case GenreImage::affichable:
-      break;
-  }
-  return true;
+void frmRecettes::MontreEnregistrement(std::int32_t numero) {
+  liste().ChoisitRecette(numero);
+  ChoisitOnglet(ongletListe);
 }
 
 std::string frmRecettes::Annonce() {

@@ -7,24 +7,21 @@
 
 namespace gastrelle {
 
-class frmRecettes;
+class frmRecettesListe;
 
 class frmRecettesAlpha final : public PageOnglet {
  public:
-  explicit frmRecettesAlpha(frmRecettes& hote);
+  frmRecettesAlpha(const PlaceOnglet& place, frmRecettesListe& liste);
 
   /// The entry rule of the tab: builds the classification.
   void Entre() override;
 
  private:
-  void ChargeClassement();
   void AfficheSelection();
-  void VaALaRecette(std::int32_t numero);
 
-  frmRecettes& hote_;
+  frmRecettesListe& liste_;
   ListeChoix* lstRecettesTri_;
   QLabel* lblNbreRecette_;
-  QPushButton* cmdValideTri_;
 };
 
 }  // namespace gastrelle

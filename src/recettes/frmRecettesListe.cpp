@@ -1,29 +1,29 @@
 #include "recettes/frmRecettesListe.h"
 
+#include "controles/Boutons.h"
 #include "controles/Conversion.h"
-#include "controles/Touches.h"
+#include "controles/Focus.h"
+#include "data/Limites.h"
 #include "data/ProceduresFichiers.h"
 #include "recettes/LectureRecettes.h"
-#include "recettes/frmRecettes.h"
 
 namespace gastrelle {
 
-frmRecettesListe::frmRecettesListe(frmRecettes& hote)
-    : PageOnglet(hote),
+frmRecettesListe::frmRecettesListe(const PlaceOnglet& place)
+    : PageOnglet(place),
       ComboFamilles(new ComboListe(QStringLiteral("ComboFamilles"), Ordre::alphabetique, this)),
       ComboRecettes(new ComboListe(QStringLiteral("ComboRecettes"), Ordre::alphabetique, this)),
-      txtRecette(new ZoneTexte(QStringLiteral("txtRecette"), limiteTexteRecette, this)),
+      txtRecette(new ZoneTexte(QStringLiteral("txtRecette"), limiteTexte, this)),
       lblLaRecette(Legende(QStringLiteral("La recette"), txtRecette)),
       cmdCameraListe(Bouton(
           QStringLiteral("cmdCameraListe"), QStringLiteral("I&mage"), QStringLiteral("camera"),
-          QStringLiteral("Cliquez sur ce bouton pour voir l'image associée à la recette"), this)),
-      hote_(hote) {
+          QStringLiteral("Cliquez sur ce bouton pour voir l'image associée à la recette"), this)) {
   Dispose();
-  hote_.SuitFamilles(*ComboFamilles);
+  familles.Suit(*ComboFamilles);
   PoseImage({});
   ComboFamilles->surChoix = [this] { ChoisitFamille(); };
   ComboRecettes->surChoix = [this] { AfficheRecette(); };
-  connect(cmdCameraListe, &QPushButton::clicked, this, [this] { hote_.cadre().MontreImage(); });
+  connect(cmdCameraListe, &QPushButton::clicked, this, [this] { hote().cadre().MontreImage(); });
 }
 
 void frmRecettesListe::Dispose() {
@@ -39,7 +39,19 @@ void frmRecettesListe::Dispose() {
   contenu().setColumnStretch(1, 3);
   contenu().setRowStretch(3, 1);
   boutons().addWidget(cmdCameraListe);
-  boutons().addWidget(BoutonAide(QStringLiteral("cmdAideListe"), this));
+  boutons().Aide("cmdAideListe");
+}
+
+void frmRecettesListe::Charge() {
+  Garde(module(), [&] {
+    ExigeFamilles(module());
+    RechargeFamilles();
+  });
+  ComboFamilles->Choisit(0);
+}
+
+void frmRecettesListe::RechargeFamilles() {
+  familles.Remplace(ListeFamilles(module()));
 }
 
 void frmRecettesListe::ChoisitFamille() {
@@ -52,18 +64,8 @@ void frmRecettesListe::ChoisitFamille() {
 }
 
 void frmRecettesListe::ChargeRecettes() {
-  Module1& module = hote_.module();
-  module.services.pointeur.Sablier();
-  std::int16_t vus = 0;
-  const bool lues = Tente(module, [&] {
-    ListeComptee recettes = RecettesDeFamille(module, ComboFamilles->Donnee());
-    vus = recettes.vus;
-    ComboRecettes->Ajoute(std::move(recettes.liste));
-  });
-  if (!lues) {
-    ErreurFatale(module);
-  }
-  module.bufRecette.RepareCompte(vus);
+  Opere(module(),
+        [&] { ComboRecettes->Ajoute(RecettesDeFamille(module(), ComboFamilles->Donnee())); });
   const bool vide = ComboRecettes->entrees().empty();
   ComboRecettes->setEnabled(!vide);
   txtRecette->setEnabled(!vide);
@@ -73,29 +75,41 @@ void frmRecettesListe::ChargeRecettes() {
   } else {
     ComboRecettes->Choisit(0);
   }
-  module.services.pointeur.Normal();
 }
 
 void frmRecettesListe::AfficheRecette() {
-  Module1& module = hote_.module();
-  module.services.pointeur.Sablier();
-  Tente(module, [&] {
-    const RecetteLue lue = LitRecette(module, ComboRecettes->Donnee());
+  Opere(module(), [&] {
+    const RecetteLue lue = LitRecette(module(), ComboRecettes->Donnee());
     txtRecette->PoseTexte(lue.texte);
     PoseImage(lue.image);
     if (lue.imagePerdue) {
       AnnonceImagePerdue(*lue.imagePerdue);
     } else {
-      hote_.cadre().PermetImage(lue.associee);
+      hote().cadre().PermetImage(lue.associee);
     }
   });
-  FinOperation(module);
   DonneFocus(txtRecette);
+}
+
+void frmRecettesListe::ChoisitRecette(std::int32_t numero) {
+  const RecRecette recette = LitEnregistrementRecette(module(), numero);
+  // The family's own event fills its recipes.
+  ComboFamilles->ChoisitDonnee(recette.idFamille);
+  ComboRecettes->ChoisitDonnee(numero);
+  module().bufRecette.courant() = recette;
 }
 
 void frmRecettesListe::PoseImage(const std::string& chemin) {
   lblLaRecette->setProperty("Tag", VersQt(chemin));
   cmdCameraListe->setEnabled(!chemin.empty());
+}
+
+std::string frmRecettesListe::Famille() const {
+  return std::string(Rogne(ComboFamilles->Texte()));
+}
+
+std::string frmRecettesListe::Titre() const {
+  return std::string(Rogne(ComboRecettes->Texte()));
 }
 
 std::string frmRecettesListe::Image() const {
@@ -107,7 +121,7 @@ Vue frmRecettesListe::VueCourante() const {
 }
 
 void frmRecettesListe::AnnonceImagePerdue(const std::string& chemin) {
-  Services& services = hote_.module().services;
+  Services& services = module().services;
   services.pointeur.Normal();
   services.messages.Informe("Le fichier image" + std::string(CRLF) + chemin + std::string(CRLF) +
                                 std::string("n'a pas été trouvé."_1252),
@@ -116,7 +130,7 @@ void frmRecettesListe::AnnonceImagePerdue(const std::string& chemin) {
 }
 
 void frmRecettesListe::Entre() {
-  hote_.cadre().PermetImage(!Image().empty());
+  hote().cadre().PermetImage(!Image().empty());
   DonneFocus(txtRecette);
 }
 

@@ -2,15 +2,16 @@
 
 #include "controles/ComboListe.h"
 #include "controles/Conversion.h"
-#include "controles/Touches.h"
+#include "data/Limites.h"
 #include "data/ProceduresFichiers.h"
 #include "recettes/ChangementRecettes.h"
-#include "recettes/LectureRecettes.h"
-#include "recettes/frmRecettes.h"
 #include "recettes/frmRecettesListe.h"
 
 namespace gastrelle {
 namespace {
+
+constexpr std::size_t famille = 0;
+constexpr std::size_t recette = 1;
 
 /// A label that shows a value: framed like a box, selectable.
 QLabel* Valeur(const QString& nom, QWidget* parent) {
@@ -25,55 +26,43 @@ QLabel* Valeur(const QString& nom, QWidget* parent) {
 
 }  // namespace
 
-frmRecettesSupprimer::frmRecettesSupprimer(frmRecettes& hote)
-    : PageOnglet(hote),
-      hote_(hote),
-      optionFamille_(
-          Option(QStringLiteral("Option3(0)"), QStringLiteral("La famille de recettes"))),
-      optionRecette_(Option(QStringLiteral("Option3(1)"), QStringLiteral("La recette"))),
+frmRecettesSupprimer::frmRecettesSupprimer(const PlaceOnglet& place, frmRecettesListe& liste)
+    : PageOnglet(place),
+      liste_(liste),
+      options_(Options("Option3", u"La famille &de recettes", u"La &recette")),
+      modes_(options_, {.focus = options_[famille]}, {.focus = options_[recette]}, std::nullopt),
       lblFamilleSupprimer_(Valeur(QStringLiteral("lblFamilleSupprimer"), this)),
       lblFamilleRecetteSupprimer_(Valeur(QStringLiteral("lblFamilleRecetteSupprimer"), this)),
       lblTitreRecetteSupprimer_(Valeur(QStringLiteral("lblTitreRecetteSupprimer"), this)),
       txtTexteRecetteSupprimer_(
-          new ZoneTexte(QStringLiteral("txtTexteRecetteSupprimer"), limiteTexteRecette, this)),
-      cmdSupprimer_(Bouton(QStringLiteral("cmdSupprimer"), QStringLiteral("&Supprimer"),
-                           QStringLiteral("supprimer"), {}, this)) {
-  Dispose();
-  connect(cmdSupprimer_, &QPushButton::clicked, this, [this] { Supprime(); });
-}
-
-void frmRecettesSupprimer::Dispose() {
+          new ZoneTexte(QStringLiteral("txtTexteRecetteSupprimer"), limiteTexte, this)),
+      cmdSupprimer_(boutons().Supprime("cmdSupprimer", u"", [this] { Supprime(); })) {
+  boutons().Aide("cmdAideSupprimer");
   txtTexteRecetteSupprimer_->RendLectureSeule();
-  optionFamille_->setText(QStringLiteral("La famille &de recettes"));
-  optionRecette_->setText(QStringLiteral("La &recette"));
   Rang(QStringLiteral("La famille"), lblFamilleSupprimer_);
   Rang(QStringLiteral("La famille de la recette"), lblFamilleRecetteSupprimer_);
   Rang(QStringLiteral("Le titre de la recette"), lblTitreRecetteSupprimer_);
   contenu().setRowStretch(Rang(QStringLiteral("Le texte de la recette"), txtTexteRecetteSupprimer_),
                           1);
-  boutons().addWidget(cmdSupprimer_);
-  boutons().addWidget(BoutonAide(QStringLiteral("cmdAideSupprimer"), this));
 }
 
 void frmRecettesSupprimer::MontreFamille() {
-  const ComboListe& familles = *hote_.liste().ComboFamilles;
+  const ComboListe& familles = *liste_.ComboFamilles;
   const bool protegee = familles.currentIndex() < 0 || familles.Donnee() == numeroProtege;
-  lblFamilleSupprimer_->setText(VersQt(Rogne(familles.Texte())));
+  lblFamilleSupprimer_->setText(VersQt(liste_.Famille()));
   lblFamilleSupprimer_->setToolTip(
       protegee ? QStringLiteral("Cette famille de recettes ne peut être supprimée") : QString());
-  optionFamille_->setEnabled(!protegee);
+  modes_.Permet(famille, !protegee);
 }
 
 void frmRecettesSupprimer::MontreRecette() {
-  const frmRecettesListe& liste = hote_.liste();
-  const bool vide = !liste.ComboRecettes->isEnabled() || liste.ComboRecettes->currentIndex() < 0;
-  const bool protegee = !vide && liste.ComboRecettes->Donnee() == numeroProtege;
-  lblFamilleRecetteSupprimer_->setText(vide ? QString()
-                                            : VersQt(Rogne(liste.ComboFamilles->Texte())));
-  lblTitreRecetteSupprimer_->setText(vide ? QString()
-                                          : VersQt(Rogne(liste.ComboRecettes->Texte())));
-  txtTexteRecetteSupprimer_->PoseTexte(vide ? std::string{} : liste.txtRecette->Texte());
-  optionRecette_->setEnabled(!vide && !protegee);
+  const ComboListe& recettes = *liste_.ComboRecettes;
+  const bool vide = !recettes.isEnabled() || recettes.currentIndex() < 0;
+  const bool protegee = !vide && recettes.Donnee() == numeroProtege;
+  lblFamilleRecetteSupprimer_->setText(vide ? QString() : VersQt(liste_.Famille()));
+  lblTitreRecetteSupprimer_->setText(vide ? QString() : VersQt(liste_.Titre()));
+  txtTexteRecetteSupprimer_->PoseTexte(vide ? std::string{} : liste_.txtRecette->Texte());
+  modes_.Permet(recette, !vide && !protegee);
   if (!vide) {
     const QString infobulle =
         protegee ? QStringLiteral("Cette recette ne peut être supprimée") : QString();
@@ -87,51 +76,40 @@ void frmRecettesSupprimer::MontreRecette() {
 void frmRecettesSupprimer::Entre() {
   MontreFamille();
   MontreRecette();
-  const bool permis = optionFamille_->isEnabled() || optionRecette_->isEnabled();
-  cmdSupprimer_->setEnabled(permis);
-  if (permis) {
-    QRadioButton* option = optionRecette_->isEnabled() ? optionRecette_ : optionFamille_;
-    option->setChecked(true);
-    DonneFocus(option);
+  const std::size_t mode = modes_.Permis(recette) ? recette : famille;
+  cmdSupprimer_->setEnabled(modes_.Permis(mode));
+  if (modes_.Permis(mode)) {
+    modes_.Choisit(mode);
+    modes_.RendFocus();
   }
 }
 
 void frmRecettesSupprimer::Supprime() {
-  Module1& module = hote_.module();
-  const bool famille = optionFamille_->isChecked();
   std::string question;
   question += "Etes-vous sûr de vouloir supprimer cette "_1252;
-  question += famille ? "'Famille de recettes'" : "'Recette'";
+  question += modes_.premier() ? "'Famille de recettes'" : "'Recette'";
   question += " ?";
-  if (famille) {
+  if (modes_.premier()) {
     question +=
         "\r\n\r\n(Attention : toutes les recettes de cette famille seront également\r\nsupprimées.)"_1252;
   }
-  if (module.services.messages.Demande(question) != Reponse::oui) {
-    return;
+  if (module().services.messages.Demande(question) == Reponse::oui) {
+    Opere(module(),
+          [this] { modes_.premier() ? SupprimeFamilleAffichee() : SupprimeRecetteAffichee(); });
   }
-  module.services.pointeur.Sablier();
-  Garde(module, [&] { famille ? SupprimeFamilleAffichee() : SupprimeRecetteAffichee(); });
 }
 
 void frmRecettesSupprimer::SupprimeFamilleAffichee() {
-  Module1& module = hote_.module();
-  frmRecettesListe& liste = hote_.liste();
-  ExigeFichier(module, Donnees::GLR1);
-  ExigeFichier(module, Donnees::GLR2);
-  SupprimeFamille(module, liste.ComboFamilles->Donnee(), liste.ComboRecettes->entrees());
-  hote_.RechargeFamilles();
-  hote_.ChoisitOnglet(FenetreOnglets::ongletListe);
-  liste.ComboFamilles->Choisit(0);
+  SupprimeFamille(module(), liste_.ComboFamilles->Donnee(), liste_.ComboRecettes->entrees());
+  liste_.RechargeFamilles();
+  hote().ChoisitOnglet(ongletListe);
+  liste_.ComboFamilles->Choisit(0);
 }
 
 void frmRecettesSupprimer::SupprimeRecetteAffichee() {
-  Module1& module = hote_.module();
-  frmRecettesListe& liste = hote_.liste();
-  ExigeFichier(module, Donnees::GLR2);
-  SupprimeRecette(module, liste.ComboRecettes->Donnee());
-  hote_.ChoisitOnglet(FenetreOnglets::ongletListe);
-  liste.ChoisitFamille();
+  SupprimeRecette(module(), liste_.ComboRecettes->Donnee());
+  hote().ChoisitOnglet(ongletListe);
+  liste_.ChoisitFamille();
 }
 
 }  // namespace gastrelle

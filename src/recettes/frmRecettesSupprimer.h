@@ -2,31 +2,31 @@
 // recipe. The first family and the first recipe of the files are protected.
 #pragma once
 
+#include "controles/DeuxModes.h"
 #include "controles/PageOnglet.h"
 #include "controles/ZoneTexte.h"
 
 namespace gastrelle {
 
-class frmRecettes;
+class frmRecettesListe;
 
 class frmRecettesSupprimer final : public PageOnglet {
  public:
-  explicit frmRecettesSupprimer(frmRecettes& hote);
+  frmRecettesSupprimer(const PlaceOnglet& place, frmRecettesListe& liste);
 
   /// The entry rule of the tab: what would be deleted, and whether it may be.
   void Entre() override;
 
  private:
-  void Dispose();
   void MontreFamille();
   void MontreRecette();
   void Supprime();
   void SupprimeFamilleAffichee();
   void SupprimeRecetteAffichee();
 
-  frmRecettes& hote_;
-  QRadioButton* optionFamille_;
-  QRadioButton* optionRecette_;
+  frmRecettesListe& liste_;
+  std::array<QRadioButton*, 2> options_;
+  DeuxModes modes_;
   QLabel* lblFamilleSupprimer_;
   QLabel* lblFamilleRecetteSupprimer_;
   QLabel* lblTitreRecetteSupprimer_;

@@ -33,6 +33,15 @@ constexpr std::array<Commutes, nombreColonnes> commutes{{
     {"mnuViewImage", nullptr, nullptr},
 }};
 
+template <class T>
+T& Nomme(const std::map<QString, T*>& table, const char* nom) {
+  const auto trouve = table.find(QString::fromLatin1(nom));
+  if (trouve == table.end()) {
+    throw std::invalid_argument(std::string("ni entrée, ni menu, ni bouton : ") + nom);
+  }
+  return *trouve->second;
+}
+
 }  // namespace
 
 BarresCadre::BarresCadre(QMainWindow& cadre) : barre_(new QToolBar(&cadre)) {
@@ -68,11 +77,10 @@ void BarresCadre::BatitMenus(QMainWindow& cadre) {
     Q_ASSERT(parent != nullptr);
     parent->addAction(entree);
     entrees_.emplace(nom, entree);
-    QObject::connect(entree, &QAction::triggered, &cadre, [this, nom](bool cochee) {
+    QObject::connect(entree, &QAction::triggered, &cadre, [this, entree](bool cochee) {
       // The check mark is the program's to set, not the click's.
-      QAction* cliquee = entrees_.at(nom);
-      cliquee->setChecked(cliquee->isCheckable() && !cochee);
-      Execute(nom);
+      entree->setChecked(entree->isCheckable() && !cochee);
+      Execute(*entree);
     });
   }
 }
@@ -97,16 +105,16 @@ void BarresCadre::BatitBarre(QMainWindow& cadre) {
     controle->setAccessibleName(infobulle);
     boutons_.emplace(cle, bouton);
     QObject::connect(bouton, &QAction::triggered, &cadre,
-                     [this, entree = QString::fromLatin1(ligne.entree)] { Execute(entree); });
+                     [this, &entree = Entree(ligne.entree)] { Execute(entree); });
   }
 }
 
 void BarresCadre::SurCommande(const char* entree, std::function<void()> commande) {
-  commandes_[QString::fromLatin1(entree)] = std::move(commande);
+  commandes_[&Entree(entree)] = std::move(commande);
 }
 
-void BarresCadre::Execute(const QString& entree) const {
-  const auto commande = commandes_.find(entree);
+void BarresCadre::Execute(const QAction& entree) const {
+  const auto commande = commandes_.find(&entree);
   if (commande != commandes_.end()) {
     commande->second();
   }
@@ -132,17 +140,17 @@ void BarresCadre::Permet(Colonne colonne, bool permise) {
   }
   for (const char* bouton : {c.bouton, c.autreBouton}) {
     if (bouton != nullptr) {
-      boutons_.at(QString::fromLatin1(bouton))->setEnabled(permise);
+      Nomme(boutons_, bouton).setEnabled(permise);
     }
   }
 }
 
 QAction& BarresCadre::Entree(const char* nom) const {
-  return *entrees_.at(QString::fromLatin1(nom));
+  return Nomme(entrees_, nom);
 }
 
 QMenu& BarresCadre::Menu(const char* nom) const {
-  return *menus_.at(QString::fromLatin1(nom));
+  return Nomme(menus_, nom);
 }
 
 }  // namespace gastrelle

@@ -18,7 +18,8 @@ class BarresCadre {
  public:
   explicit BarresCadre(QMainWindow& cadre);
 
-  /// What an entry does, and every button that stands for it.
+  /// What an entry does, and every button that stands for it. A name that isn't in the tables
+  /// raises std::invalid_argument, here and below: the program then doesn't start.
   void SurCommande(const char* entree, std::function<void()> commande);
 
   /// Sets the entries and buttons of the pattern's columns.
@@ -32,12 +33,12 @@ class BarresCadre {
  private:
   void BatitMenus(QMainWindow& cadre);
   void BatitBarre(QMainWindow& cadre);
-  void Execute(const QString& entree) const;
+  void Execute(const QAction& entree) const;
 
   std::map<QString, QAction*> entrees_;
   std::map<QString, QMenu*> menus_;
   std::map<QString, QAction*> boutons_;
-  std::map<QString, std::function<void()>> commandes_;
+  std::map<const QAction*, std::function<void()>> commandes_;
   QToolBar* barre_;
 };
 

@@ -5,7 +5,7 @@
 #include <array>
 #include <cstdint>
 
-#include "controles/Cadre.h"
+#include "data/Contextes.h"
 
 namespace gastrelle {
 

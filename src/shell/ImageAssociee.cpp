@@ -1,13 +1,13 @@
 #include "shell/ImageAssociee.h"
 
+#include "data/Contextes.h"
 #include "data/ProceduresFichiers.h"
 #include "data/Texte1252.h"
 
 namespace gastrelle {
 
 void OuvreImageAssociee(Module1& module, const std::string& chemin) {
-  constexpr std::int16_t listeDesRecettes = 11;
-  if (module.contexteActif != listeDesRecettes) {
+  if (module.contexteActif != Contexte(EntreeVue::recettes, ongletListe)) {
     return;
   }
   if (!ImageExiste(module, chemin)) {

@@ -34,7 +34,7 @@ void SuiviFenetres::Suit(QMdiSubWindow& fenetre) {
               return;
             }
             if (reduite) {
-              contenu->Reduit();
+              contenu->QuandReduite();
             } else if (suivie == derniere_) {
               contenu->Active();
             }

@@ -10,6 +10,7 @@
 #include <QStyleOption>
 #include <QVBoxLayout>
 
+#include "controles/Boutons.h"
 #include "controles/Conversion.h"
 #include "controles/Icones.h"
 #include "controles/Touches.h"

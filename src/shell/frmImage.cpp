@@ -9,6 +9,7 @@
 #include "controles/Conversion.h"
 #include "controles/Icones.h"
 #include "controles/Touches.h"
+#include "data/Contextes.h"
 #include "data/ProceduresFichiers.h"
 #include "shell/ImageAssociee.h"
 
@@ -43,8 +44,7 @@ frmImage::frmImage(Module1& module, std::string chemin, QWidget* parent)
 }
 
 bool frmImage::SurLaListe() const {
-  constexpr std::int16_t listeDesRecettes = 11;
-  return module_.contexteActif == listeDesRecettes;
+  return module_.contexteActif == Contexte(EntreeVue::recettes, ongletListe);
 }
 
 QLabel* frmImage::CreeVue(const char* nom) {

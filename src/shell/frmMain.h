@@ -3,19 +3,17 @@
 #pragma once
 
 #include <functional>
-#include <map>
 
 #include <QMainWindow>
 #include <QMdiArea>
 
 #include "controles/Cadre.h"
-#include "controles/FenetreEnfant.h"
 #include "data/Module1.h"
 #include "plateforme/Clavier.h"
 #include "shell/Aide.h"
 #include "shell/BarreStatut.h"
 #include "shell/BarresCadre.h"
-#include "shell/SuiviFenetres.h"
+#include "shell/FenetresCadre.h"
 
 namespace gastrelle {
 
@@ -34,9 +32,6 @@ class frmMain final : public QMainWindow, public Cadre {
   /// Runs once the frame is closed and the last copy made.
   std::function<void()> surFin;
 
-  /// Shows a child window and brings it to the front, unless it is the active one already.
-  void MontreFenetre(EntreeVue vue);
-
  protected:
   void closeEvent(QCloseEvent* evenement) override;
   bool event(QEvent* evenement) override;
@@ -44,11 +39,6 @@ class frmMain final : public QMainWindow, public Cadre {
  private:
   void BrancheCommandes();
   void BrancheFenetres();
-  [[nodiscard]] QMdiSubWindow* FenetreDe(EntreeVue vue) const;
-  QMdiSubWindow* CreeFenetre(EntreeVue vue);
-  void AppliqueTaille(EntreeVue vue, QMdiSubWindow& fenetre);
-  void FermeTout();
-  void ListeFenetres();
   void Bascule(const char* entree, QWidget& barre);
   void SuiteMaintenance();
   void OuvreAide();
@@ -59,9 +49,8 @@ class frmMain final : public QMainWindow, public Cadre {
   QMdiArea* enfants_;
   BarresCadre barres_;
   BarreStatut* statut_;
-  SuiviFenetres suivi_;
+  FenetresCadre fenetres_;
   Aide aide_;
-  std::map<EntreeVue, QPointer<QWidget>> fenetres_;
   bool fermee_ = false;
 };
 

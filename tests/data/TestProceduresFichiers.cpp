@@ -95,15 +95,14 @@ TEST_F(Procedures, ExigeFichierEchoueParLErreur53) {
   EXPECT_THAT(b.messages.vus, ElementsAre(NonTrouve(b, "GLT2.DAT")));
 }
 
-TEST_F(Procedures, ExigeFichierOuFinFinitLeProgramme) {
+TEST_F(Procedures, UnFichierExigeSousLaGardeFinitLeProgrammeApresSonMessage) {
   b.dossier.Supprime("GLT2.DAT");
-  EXPECT_EQ(FinDe([&] { ExigeFichierOuFin(module, Donnees::GLT2); }), 1);
+  EXPECT_EQ(FinDe([&] { Garde(module, [&] { ExigeFichier(module, Donnees::GLT2); }); }), 1);
   EXPECT_THAT(b.messages.vus, ElementsAre(NonTrouve(b, "GLT2.DAT"), Fatal()));
 }
 
-TEST_F(Procedures, ExigentEnSilenceUnFichierPresent) {
+TEST_F(Procedures, ExigeEnSilenceUnFichierPresent) {
   ExigeFichier(module, Donnees::GLT2);
-  ExigeFichierOuFin(module, Donnees::GLT2);
   EXPECT_THAT(b.messages.vus, IsEmpty());
 }
 
@@ -207,14 +206,20 @@ TEST_F(Procedures, FinOperationFinitLeProgrammeQuandLeDrapeauEstLeve) {
   EXPECT_EQ(FinDe([&] { FinOperation(module); }), 1);
 }
 
-TEST_F(Procedures, TenteLeveLeDrapeauSansFinir) {
-  EXPECT_TRUE(Tente(module, [] {}));
+TEST_F(Procedures, LaGardeLeveLeDrapeauEtFinitLeProgramme) {
+  Garde(module, [] {});
   EXPECT_FALSE(module.erreurFatale);
-  EXPECT_FALSE(Tente(module, [] { throw ErreurExecution(Panne::disquePlein); }));
+  EXPECT_EQ(FinDe([&] { Garde(module, [] { throw ErreurExecution(Panne::disquePlein); }); }), 1);
   EXPECT_TRUE(module.erreurFatale);
-  EXPECT_THAT(b.messages.vus, IsEmpty());
-  EXPECT_TRUE(Tente(module, [] {}));
-  EXPECT_TRUE(module.erreurFatale);  // a later success doesn't clear it
+  EXPECT_THAT(b.messages.vus, ElementsAre(Fatal()));
+  EXPECT_EQ(FinDe([&] { Garde(module, [] {}); }), 1);  // a later success doesn't clear it
+}
+
+TEST_F(Procedures, UneOperationEstSousLeSablierJusquASaFin) {
+  bool pendant = false;
+  Opere(module, [&] { pendant = b.pointeur.sablier; });
+  EXPECT_TRUE(pendant);
+  EXPECT_FALSE(b.pointeur.sablier);
 }
 
 /// The four recipe files, closed as a maintenance action leaves them.

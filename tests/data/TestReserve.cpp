@@ -3,9 +3,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "data/Limites.h"
 #include "data/Reserve.h"
 #include "doublures/Pannes.h"
-#include "recettes/LectureRecettes.h"
 
 namespace gastrelle::essai {
 namespace {
@@ -200,7 +200,7 @@ TEST_F(ReserveTextes, NeLitQueLesPremiersOctetsDUneLimite) {
 TEST_F(ReserveTextes, CoupeUneRecetteA30000OctetsPourLAfficher) {
   const std::string texte = std::string(30000, 'a') + "b";
   reserve.Ajoute(Reference(), texte);
-  EXPECT_EQ(reserve.Lire(position, longueur, limiteTexteRecette), std::string(30000, 'a'));
+  EXPECT_EQ(reserve.Lire(position, longueur, limiteTexte), std::string(30000, 'a'));
   EXPECT_EQ(reserve.Lire(position, longueur), texte);
 }
 

@@ -6,6 +6,7 @@
 
 #include "data/Courses.h"
 #include "data/EspaceMort.h"
+#include "data/Limites.h"
 #include "data/Main.h"
 #include "data/ProceduresFichiers.h"
 #include "doublures/ServicesEssai.h"
@@ -60,15 +61,14 @@ class Vie {
 
   void Listes() {
     Essaie([&] { bilan_.familles = ListeFamilles(module_); });
-    Essaie([&] { bilan_.recettes = ToutesRecettes(module_).liste; });
+    Essaie([&] { bilan_.recettes = ToutesRecettes(module_); });
     Trie(bilan_.recettes);
     for (const std::int32_t famille : Numeros(bilan_.familles)) {
       Essaie([&] {
-        const ListeComptee recettes = RecettesDeFamille(module_, famille);
-        Verifie(recettes.liste.size() <= static_cast<std::size_t>(recettes.vus),
-                "plus de recettes listées que vues");
-        module_.bufRecette.RepareCompte(recettes.vus);
-        for (const EntreeListe& recette : recettes.liste) {
+        const Liste recettes = RecettesDeFamille(module_, famille);
+        Verifie(recettes.size() <= static_cast<std::size_t>(module_.bufRecette.nbActifs()),
+                "plus de recettes listées que comptées");
+        for (const EntreeListe& recette : recettes) {
           Essaie([&] { static_cast<void>(LitRecette(module_, recette.donnee)); });
         }
       });
@@ -98,7 +98,7 @@ class Vie {
     for (const EntreeListe& recette : bilan_.recettes) {
       Essaie([&] {
         const RecetteLue lue = LitRecette(module_, recette.donnee);
-        Verifie(lue.texte.size() <= static_cast<std::size_t>(limiteTexteRecette),
+        Verifie(lue.texte.size() <= static_cast<std::size_t>(limiteTexte),
                 "un texte plus long que sa limite");
         Verifie(lue.image.empty() || !lue.imagePerdue, "une image trouvée et perdue");
         bilan_.textes.push_back(lue.texte);
@@ -140,14 +140,13 @@ class Vie {
   }
 
   void Fiches(const FichiersFiches& fichiers, Lus& lus) {
-    CatalogueFiches catalogue(module_, fichiers);
     Essaie([&] {
-      lus.liste = catalogue.ListeTitres();
+      lus.liste = ListeFiches(module_, fichiers);
       VerifieListe(lus.liste, module_.*fichiers.tampon);
     });
     LitTout(lus, [&](std::int32_t numero) {
-      std::string texte = catalogue.LitTexte(numero);
-      Verifie(texte.size() <= std::size_t{limiteTexteFiche}, "un texte plus long que sa limite");
+      std::string texte = LitFiche(module_, fichiers, numero);
+      Verifie(texte.size() <= std::size_t{limiteTexte}, "un texte plus long que sa limite");
       return texte;
     });
   }

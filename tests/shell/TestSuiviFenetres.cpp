@@ -5,6 +5,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "doublures/Bibliotheque.h"
+#include "doublures/CadreEssai.h"
 #include "doublures/Ecran.h"
 #include "shell/SuiviFenetres.h"
 
@@ -14,12 +16,16 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
+constexpr DescriptionFenetre fenetreEssai{
+    .nom = "frmEssai", .titre = u"Essai", .vue = EntreeVue::recettes, .logo = ""};
+
 class EnfantEssai final : public FenetreEnfant {
  public:
-  EnfantEssai(QString nom, QStringList& journal) : nom_(std::move(nom)), journal_(journal) {}
+  EnfantEssai(Module1& module, gastrelle::Cadre& cadre, QString nom, QStringList& journal)
+      : FenetreEnfant(module, cadre, fenetreEssai), nom_(std::move(nom)), journal_(journal) {}
   void Active() override { journal_ << "+" + nom_; }
   void Desactive() override { journal_ << "-" + nom_; }
-  void Reduit() override { journal_ << "_" + nom_; }
+  void QuandReduite() override { journal_ << "_" + nom_; }
 
  private:
   QString nom_;
@@ -42,13 +48,15 @@ class Suivi : public testing::Test {
 
   QMdiSubWindow* Ajoute(const QString& nom) {
     auto* fenetre = new QMdiSubWindow;
-    fenetre->setWidget(new EnfantEssai(nom, journal));
+    fenetre->setWidget(new EnfantEssai(*bibliotheque.module, cadreEssai, nom, journal));
     fenetre->setAttribute(Qt::WA_DeleteOnClose);
     enfants->addSubWindow(fenetre);
     suivi->Suit(*fenetre);
     return fenetre;
   }
 
+  Bibliotheque bibliotheque;
+  CadreEssai cadreEssai{*bibliotheque.module};
   QMainWindow cadre;
   QMdiArea* enfants = new QMdiArea;
   QStringList journal;

@@ -179,15 +179,15 @@ TEST_F(Fabrique, LaisseLesRayonsVides) {
 TEST_F(Fabrique, ListeDesRecettesDansChaqueFamille) {
   std::size_t recettes = 0;
   for (const auto& famille : ListeFamilles(*m)) {
-    const ListeComptee liste = RecettesDeFamille(*m, famille.donnee);
-    EXPECT_FALSE(liste.liste.empty()) << VersUtf8(famille.texte);
-    recettes += liste.liste.size();
+    const Liste liste = RecettesDeFamille(*m, famille.donnee);
+    EXPECT_FALSE(liste.empty()) << VersUtf8(famille.texte);
+    recettes += liste.size();
   }
   EXPECT_EQ(recettes, Fiches(m->bufRecette).size());
 }
 
 TEST_F(Fabrique, MontreUneImageAChaqueRecette) {
-  for (const auto& entree : ToutesRecettes(*m).liste) {
+  for (const auto& entree : ToutesRecettes(*m)) {
     const RecetteLue recette = LitRecette(*m, entree.donnee);
     EXPECT_TRUE(recette.associee) << VersUtf8(entree.texte);
     EXPECT_EQ(recette.imagePerdue, std::nullopt);

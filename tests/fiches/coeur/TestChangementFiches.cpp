@@ -20,10 +20,7 @@ class ChangementDesFiches : public testing::TestWithParam<CatalogueEssai> {
  protected:
   ChangementDesFiches() { b.GarnitFiches(c.fiches); }
 
-  void Demarre() {
-    b.Demarre();
-    catalogue.emplace(*b.module, c.fichiers);
-  }
+  void Demarre() { b.Demarre(); }
   /// Starts with "Noce" on display, the first record that can be deleted; its text is the ten bytes
   /// behind the signature.
   void DemarreSurNoce() {
@@ -32,7 +29,7 @@ class ChangementDesFiches : public testing::TestWithParam<CatalogueEssai> {
     Affiche(premiere);
   }
   void Affiche(std::int32_t numero) {
-    static_cast<void>(catalogue->LitTexte(numero));
+    static_cast<void>(LitFiche(*b.module, c.fichiers, numero));
     b.disque.OublieJournal();
   }
   RecFiche Lue(std::int32_t numero) const { return Fiche(b, c, numero); }
@@ -53,9 +50,8 @@ class ChangementDesFiches : public testing::TestWithParam<CatalogueEssai> {
     avec.AjouteFiche(c.fiches, "Noce", "Dix octets");
   }
   void ChangeNoce(Bibliotheque& avec, std::string_view texte) const {
-    CatalogueFiches lu(*avec.module, c.fichiers);
-    static_cast<void>(lu.LitTexte(premiere));
-    lu.Change(premiere, "Bal", texte);
+    static_cast<void>(LitFiche(*avec.module, c.fichiers, premiere));
+    ChangeFiche(*avec.module, c.fichiers, premiere, "Bal", texte);
   }
   void AttendAncienneFiche(const Bibliotheque& avec, std::size_t n, Maniere maniere) const {
     EXPECT_EQ(Fiche(avec, c, premiere).posTexte, 9);
@@ -68,7 +64,6 @@ class ChangementDesFiches : public testing::TestWithParam<CatalogueEssai> {
   const CatalogueEssai& c = GetParam();
   const std::int32_t premiere = c.dernierProtege + 1;
   Bibliotheque b;
-  std::optional<CatalogueFiches> catalogue;
 };
 
 INSTANTIATE_TEST_SUITE_P(Coeur, ChangementDesFiches, testing::Values(lesMenus, lesTrucs),
@@ -76,7 +71,7 @@ INSTANTIATE_TEST_SUITE_P(Coeur, ChangementDesFiches, testing::Values(lesMenus, l
 
 TEST_P(ChangementDesFiches, AjouteReserveDabordPuisFichePuisEntete) {
   Demarre();
-  EXPECT_EQ(catalogue->Ajoute("Noce", "Du vin."), premiere);
+  EXPECT_EQ(AjouteFiche(*b.module, c.fichiers, "Noce", "Du vin."), premiere);
   EXPECT_THAT(b.disque.changements(),
               ElementsAre(EcritTexte(c, 8, 7), EcritFiche(c, premiere), EcritFiche(c, 1)));
   EXPECT_EQ(Octets(Lue(premiere)), Octets(Attendue("Noce", 9, 7)));
@@ -86,15 +81,15 @@ TEST_P(ChangementDesFiches, AjouteReserveDabordPuisFichePuisEntete) {
 
 TEST_P(ChangementDesFiches, UnAjoutCompteLaFicheEtGardeLaSignature) {
   Demarre();
-  catalogue->Ajoute("Noce", "Du vin.");
-  EXPECT_EQ(catalogue->Nombre(), c.dernierProtege);
+  AjouteFiche(*b.module, c.fichiers, "Noce", "Du vin.");
+  EXPECT_EQ(NombreFiches(*b.module, c.fichiers), c.dernierProtege);
   EXPECT_EQ(Compte(b, c), c.dernierProtege);
   EXPECT_EQ(TitreFiche(b, c, 1), Nom(c.fiches));
 }
 
 TEST_P(ChangementDesFiches, ExigeSesFichiersAvantDeRienEcrire) {
   Demarre();
-  catalogue->Ajoute("Noce", "Du vin.");
+  AjouteFiche(*b.module, c.fichiers, "Noce", "Du vin.");
   EXPECT_EQ(b.disque.journal()[0], "existe " + Nom(c.fiches));
   EXPECT_EQ(b.disque.journal()[1], "existe " + Nom(c.textes));
 }
@@ -102,7 +97,7 @@ TEST_P(ChangementDesFiches, ExigeSesFichiersAvantDeRienEcrire) {
 TEST_P(ChangementDesFiches, UnAjoutSansTexteNeToucheNiNeDemandeLaReserve) {
   DemarreSurNoce();
   b.dossier.Supprime(Nom(c.textes));
-  EXPECT_EQ(catalogue->Ajoute("Nue", {}), premiere + 1);
+  EXPECT_EQ(AjouteFiche(*b.module, c.fichiers, "Nue", {}), premiere + 1);
   EXPECT_THAT(b.disque.journal(), Each(Not(HasSubstr(Nom(c.textes)))));
   EXPECT_EQ(Octets(Lue(premiere + 1)), Octets(Attendue("Nue", 0, 0)));
 }
@@ -110,28 +105,28 @@ TEST_P(ChangementDesFiches, UnAjoutSansTexteNeToucheNiNeDemandeLaReserve) {
 TEST_P(ChangementDesFiches, UnAjoutAvecTexteSansReserveEchoueSansRienEcrire) {
   Demarre();
   b.dossier.Supprime(Nom(c.textes));
-  EXPECT_THROW(catalogue->Ajoute("Noce", "Du vin."), ErreurExecution);
+  EXPECT_THROW(AjouteFiche(*b.module, c.fichiers, "Noce", "Du vin."), ErreurExecution);
   EXPECT_THAT(b.disque.changements(), IsEmpty());
   EXPECT_EQ(b.messages.vus.size(), 1U);
 }
 
 TEST_P(ChangementDesFiches, LeMemeTitreSAjouteDeuxFois) {
   Demarre();
-  EXPECT_EQ(catalogue->Ajoute("Noce", {}), premiere);
-  EXPECT_EQ(catalogue->Ajoute("Noce", {}), premiere + 1);
+  EXPECT_EQ(AjouteFiche(*b.module, c.fichiers, "Noce", {}), premiere);
+  EXPECT_EQ(AjouteFiche(*b.module, c.fichiers, "Noce", {}), premiere + 1);
   EXPECT_EQ(TitreFiche(b, c, premiere), TitreFiche(b, c, premiere + 1));
 }
 
 TEST_P(ChangementDesFiches, UneFicheNouvelleVaALaFinMemeApresUneSuppression) {
   DemarreSurNoce();
-  catalogue->Supprime(premiere);
-  EXPECT_EQ(catalogue->Ajoute("Fiancailles", {}), premiere + 1);
+  SupprimeFiche(*b.module, c.fichiers, premiere);
+  EXPECT_EQ(AjouteFiche(*b.module, c.fichiers, "Fiancailles", {}), premiere + 1);
   EXPECT_EQ(TitreFiche(b, c, premiere), "Noce");
 }
 
 TEST_P(ChangementDesFiches, UnTexteDeMemeLongueurSeRemplaceEnPlace) {
   DemarreSurNoce();
-  catalogue->Change(premiere, "Noces", "dIX OCTETS");
+  ChangeFiche(*b.module, c.fichiers, premiere, "Noces", "dIX OCTETS");
   EXPECT_THAT(b.disque.changements(), ElementsAre(EcritTexte(c, 8, 10), EcritFiche(c, premiere)));
   EXPECT_EQ(Octets(Lue(premiere)), Octets(Attendue("Noces", 9, 10)));
   EXPECT_EQ(Textes(b, c), Reserve("dIX OCTETS"));
@@ -139,14 +134,14 @@ TEST_P(ChangementDesFiches, UnTexteDeMemeLongueurSeRemplaceEnPlace) {
 
 TEST_P(ChangementDesFiches, UnTextePlusCourtGardeSaPositionEtLaisseSaQueue) {
   DemarreSurNoce();
-  catalogue->Change(premiere, "Noce", "Bref");
+  ChangeFiche(*b.module, c.fichiers, premiere, "Noce", "Bref");
   EXPECT_EQ(Octets(Lue(premiere)), Octets(Attendue("Noce", 9, 4)));
   EXPECT_EQ(Textes(b, c), Reserve("Brefoctets"));
 }
 
 TEST_P(ChangementDesFiches, UnTexteDUnCaractereDePlusPasseALaFin) {
   DemarreSurNoce();
-  catalogue->Change(premiere, "Noce", "Onze octets");
+  ChangeFiche(*b.module, c.fichiers, premiere, "Noce", "Onze octets");
   EXPECT_EQ(Octets(Lue(premiere)), Octets(Attendue("Noce", 19, 11)));
   EXPECT_EQ(Textes(b, c), Reserve("Dix octetsOnze octets"));
 }
@@ -154,7 +149,7 @@ TEST_P(ChangementDesFiches, UnTexteDUnCaractereDePlusPasseALaFin) {
 TEST_P(ChangementDesFiches, UnTexteVidePerdSaReferenceSansToucherLaReserve) {
   DemarreSurNoce();
   b.disque.EchoueSur("existe " + Nom(c.textes), Panne::permissionRefusee);
-  catalogue->Change(premiere, "Noce", {});
+  ChangeFiche(*b.module, c.fichiers, premiere, "Noce", {});
   EXPECT_THAT(b.disque.changements(), ElementsAre(EcritFiche(c, premiere)));
   EXPECT_EQ(Octets(Lue(premiere)), Octets(Attendue("Noce", 0, 0)));
   EXPECT_EQ(Textes(b, c), Reserve("Dix octets"));
@@ -162,43 +157,43 @@ TEST_P(ChangementDesFiches, UnTexteVidePerdSaReferenceSansToucherLaReserve) {
 
 TEST_P(ChangementDesFiches, UnTexteRenduApresAvoirEteVidePasseALaFin) {
   DemarreSurNoce();
-  catalogue->Change(premiere, "Noce", {});
-  catalogue->Change(premiere, "Noce", "x");
+  ChangeFiche(*b.module, c.fichiers, premiere, "Noce", {});
+  ChangeFiche(*b.module, c.fichiers, premiere, "Noce", "x");
   EXPECT_EQ(Octets(Lue(premiere)), Octets(Attendue("Noce", 19, 1)));
 }
 
 TEST_P(ChangementDesFiches, LAncienneReferenceEstCelleDeLaFicheDeTravail) {
   DemarreSurNoce();
   (*b.module.*c.fichiers.tampon).courant().lgTexte = 3;
-  catalogue->Change(premiere, "Noce", "Bref");
+  ChangeFiche(*b.module, c.fichiers, premiere, "Noce", "Bref");
   EXPECT_EQ(Lue(premiere).posTexte, 19);
   EXPECT_THAT(b.disque.journal(), Not(Contains(HasSubstr("lit " + Nom(c.fiches)))));
 }
 
 TEST_P(ChangementDesFiches, UneModificationNeChangePasLeCompte) {
   DemarreSurNoce();
-  catalogue->Change(premiere, "Noces", "Bref");
+  ChangeFiche(*b.module, c.fichiers, premiere, "Noces", "Bref");
   EXPECT_EQ(Compte(b, c), c.dernierProtege);
 }
 
 TEST_P(ChangementDesFiches, UneFicheProtegeeSeModifie) {
   Demarre();
   Affiche(c.dernierProtege);
-  catalogue->Change(c.dernierProtege, "Autre", "Du vin.");
+  ChangeFiche(*b.module, c.fichiers, c.dernierProtege, "Autre", "Du vin.");
   EXPECT_EQ(Octets(Lue(c.dernierProtege)), Octets(Attendue("Autre", 9, 7)));
 }
 
 TEST_P(ChangementDesFiches, UneModificationRendVivanteUneFicheEteinte) {
   DemarreSurNoce();
-  catalogue->Supprime(premiere);
-  catalogue->Change(premiere, "Noce", "Bref");
+  SupprimeFiche(*b.module, c.fichiers, premiere);
+  ChangeFiche(*b.module, c.fichiers, premiere, "Noce", "Bref");
   EXPECT_EQ(Lue(premiere).actif, -1);
 }
 
 TEST_P(ChangementDesFiches, ModifierUneFicheSansSonFichierEchoueSansRienEcrire) {
   DemarreSurNoce();
   b.dossier.Supprime(Nom(c.fiches));
-  EXPECT_THROW(catalogue->Change(premiere, "Noce", "Bref"), ErreurExecution);
+  EXPECT_THROW(ChangeFiche(*b.module, c.fichiers, premiere, "Noce", "Bref"), ErreurExecution);
   EXPECT_THAT(b.disque.changements(), IsEmpty());
 }
 
@@ -206,7 +201,7 @@ TEST_P(ChangementDesFiches, SupprimeEnNEffacantQueLeDrapeau) {
   DemarreSurNoce();
   RecFiche attendue = Lue(premiere);
   attendue.actif = 0;
-  catalogue->Supprime(premiere);
+  SupprimeFiche(*b.module, c.fichiers, premiere);
   EXPECT_THAT(b.disque.changements(), ElementsAre(EcritFiche(c, premiere), EcritFiche(c, 1)));
   EXPECT_EQ(Octets(Lue(premiere)), Octets(attendue));
   EXPECT_EQ(Compte(b, c), c.dernierProtege - 1);
@@ -217,17 +212,17 @@ TEST_P(ChangementDesFiches, SupprimerRelitLaFicheEtNeDemandePasLaReserve) {
   DemarreSurNoce();
   Affiche(2);
   b.dossier.Supprime(Nom(c.textes));
-  catalogue->Supprime(premiere);
+  SupprimeFiche(*b.module, c.fichiers, premiere);
   EXPECT_EQ(TitreFiche(b, c, premiere), "Noce");
   EXPECT_EQ(b.disque.journal().front(), "existe " + Nom(c.fiches));
 }
 
 TEST_P(ChangementDesFiches, ToutesLesAutresSupprimeesLeFichierGardeSaLongueur) {
   DemarreSurNoce();
-  const std::int32_t seconde = catalogue->Ajoute("Fete", {});
+  const std::int32_t seconde = AjouteFiche(*b.module, c.fichiers, "Fete", {});
   const std::size_t longueur = b.dossier.Lit(Nom(c.fiches)).size();
-  catalogue->Supprime(premiere);
-  catalogue->Supprime(seconde);
+  SupprimeFiche(*b.module, c.fichiers, premiere);
+  SupprimeFiche(*b.module, c.fichiers, seconde);
   EXPECT_EQ(Compte(b, c), c.dernierProtege - 1);
   EXPECT_EQ(b.dossier.Lit(Nom(c.fiches)).size(), longueur);
 }
@@ -236,7 +231,7 @@ TEST_P(ChangementDesFiches, LeCompteQuiNeTientPlusEstUnePanne) {
   Demarre();
   PoseCompte(b, Nom(c.fiches), 32767);
   (*b.module.*c.fichiers.tampon).LireEntete();
-  EXPECT_THROW(catalogue->Ajoute("Trop", {}), ErreurExecution);
+  EXPECT_THROW(AjouteFiche(*b.module, c.fichiers, "Trop", {}), ErreurExecution);
 }
 
 // What stands on file when a write fails: a text without a reference, a record without its count,
@@ -244,9 +239,7 @@ TEST_P(ChangementDesFiches, LeCompteQuiNeTientPlusEstUnePanne) {
 TEST_P(ChangementDesFiches, UnAjoutQuiEchoueNeLaisseJamaisDeReferenceSansTexte) {
   EchoueAChaqueEcriture(
       3, [&](Bibliotheque& avec) { avec.GarnitFiches(c.fiches); },
-      [&](Bibliotheque& avec) {
-        CatalogueFiches(*avec.module, c.fichiers).Ajoute("Noce", "Du vin rouge");
-      },
+      [&](Bibliotheque& avec) { AjouteFiche(*avec.module, c.fichiers, "Noce", "Du vin rouge"); },
       [&](const Bibliotheque& avec, std::size_t n, Maniere maniere) {
         const bool moitie = maniere == Maniere::moitieEcrite;
         const std::size_t fiches = avec.dossier.Lit(Nom(c.fiches)).size();
@@ -276,7 +269,7 @@ TEST_P(ChangementDesFiches, UneSuppressionQuiEchoueGardeCeQuiEstDejaEcrit) {
         avec.GarnitFiches(c.fiches);
         avec.AjouteFiche(c.fiches, "Noce");
       },
-      [&](Bibliotheque& avec) { CatalogueFiches(*avec.module, c.fichiers).Supprime(premiere); },
+      [&](Bibliotheque& avec) { SupprimeFiche(*avec.module, c.fichiers, premiere); },
       [&](const Bibliotheque& avec, std::size_t n, Maniere maniere) {
         if (maniere == Maniere::rienFait) {
           EXPECT_EQ(Fiche(avec, c, premiere).actif, n > 1 ? 0 : -1);
@@ -288,7 +281,7 @@ TEST_P(ChangementDesFiches, UneSuppressionQuiEchoueGardeCeQuiEstDejaEcrit) {
 
 TEST_P(ChangementDesFiches, UneModificationExigeSesFichiersPuisEcritSansRienRelire) {
   DemarreSurNoce();
-  catalogue->Change(premiere, "Noces", "Bref");
+  ChangeFiche(*b.module, c.fichiers, premiere, "Noces", "Bref");
   EXPECT_THAT(b.disque.journal(), ElementsAre("existe " + Nom(c.fiches), "existe " + Nom(c.textes),
                                               EcritTexte(c, 8, 4), EcritFiche(c, premiere)));
 }
@@ -298,10 +291,10 @@ TEST_P(ChangementDesFiches, LEnteteNeChangeQueDeCompte) {
   DemarreSurNoce();
   const std::string avant = Entete<RecFiche>(b, Nom(c.fiches));
   const auto vivantes = static_cast<std::int16_t>(c.dernierProtege);
-  catalogue->Ajoute("Bal", "x");
+  AjouteFiche(*b.module, c.fichiers, "Bal", "x");
   EXPECT_EQ(Entete<RecFiche>(b, Nom(c.fiches)),
             AvecCompte(avant, static_cast<std::int16_t>(vivantes + 1)));
-  catalogue->Supprime(premiere);
+  SupprimeFiche(*b.module, c.fichiers, premiere);
   EXPECT_EQ(Entete<RecFiche>(b, Nom(c.fiches)), AvecCompte(avant, vivantes));
 }
 

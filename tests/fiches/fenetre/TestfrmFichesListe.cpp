@@ -170,7 +170,7 @@ TEST_P(FichesListe, UnFichierSansFicheOuvreUneFenetreVide) {
 
 TEST_P(FichesListe, ReduireLaFenetreNeRendPasLeCadre) {
   Ouvre();
-  fenetre->Reduit();
+  fenetre->QuandReduite();
   EXPECT_THAT(cadre->quittes, IsEmpty());
   EXPECT_EQ(b.module->contexteActif, cas.contexteBase + 1);
 }

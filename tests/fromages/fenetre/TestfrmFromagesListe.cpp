@@ -186,7 +186,7 @@ TEST_F(ListeDesFromages, ChaqueBoutonDAideEnvoieLaToucheF1) {
 TEST_F(ListeDesFromages, LaDesactivationLaReductionEtLaFermetureQuittentLeContexte) {
   Ouvre();
   fenetre->Desactive();
-  fenetre->Reduit();
+  fenetre->QuandReduite();
   fenetre->close();
   EXPECT_THAT(cadre->quittes,
               ElementsAre(EntreeVue::fromages, EntreeVue::fromages, EntreeVue::fromages));

@@ -200,9 +200,9 @@ TEST_F(Changement, SupprimeUneFamilleAvecSesRecettes) {
   b.AjouteRecette(famille, "Sole");
   b.AjouteRecette(famille, "Raie");
   b.Demarre();
-  const ListeComptee recettes = RecettesDeFamille(*b.module, famille);
+  const Liste recettes = RecettesDeFamille(*b.module, famille);
   b.disque.OublieJournal();
-  SupprimeFamille(*b.module, famille, recettes.liste);
+  SupprimeFamille(*b.module, famille, recettes);
   EXPECT_THAT(
       b.disque.changements(),
       ElementsAre("écrit GLR2.DAT 300+150", "écrit GLR2.DAT 450+150", "écrit GLR2.DAT 0+150",
@@ -351,8 +351,8 @@ TEST_F(Changement, UneSuppressionDeFamilleQuiEchoueGardeCeQuiEstDejaEcrit) {
         avec.AjouteRecette(3, "Raie");
       },
       [](Bibliotheque& avec) {
-        const ListeComptee recettes = RecettesDeFamille(*avec.module, 3);
-        SupprimeFamille(*avec.module, 3, recettes.liste);
+        const Liste recettes = RecettesDeFamille(*avec.module, 3);
+        SupprimeFamille(*avec.module, 3, recettes);
       },
       [](const Bibliotheque& avec, std::size_t n, Maniere maniere) {
         if (maniere == Maniere::moitieEcrite) {

@@ -62,9 +62,11 @@ TEST_F(Lecture, NeListeQueLesRecettesVivantesDeLaFamilleAvecLeurVraiNumero) {
   EffaceRecette(b, supprimee);
   PoseCompte(b, "GLR2.stp", 4);
   b.Demarre();
-  const ListeComptee recettes = RecettesDeFamille(*b.module, famille);
-  EXPECT_THAT(recettes.liste, ElementsAre(EntreeListe{"Sole", 3}, EntreeListe{"Bar", 6}));
-  EXPECT_EQ(recettes.vus, 4);
+  EXPECT_THAT(RecettesDeFamille(*b.module, famille),
+              ElementsAre(EntreeListe{"Sole", 3}, EntreeListe{"Bar", 6}));
+  // The others were counted on the way.
+  EXPECT_EQ(b.module->bufRecette.nbActifs(), 4);
+  EXPECT_THAT(b.disque.changements(), IsEmpty());
 }
 
 TEST_F(Lecture, CompteTropBasLaisseLesDernieresRecettesHorsDeLaListe) {
@@ -73,23 +75,63 @@ TEST_F(Lecture, CompteTropBasLaisseLesDernieresRecettesHorsDeLaListe) {
   }
   PoseCompte(b, "GLR2.stp", 1);
   b.Demarre();
-  EXPECT_EQ(ToutesRecettes(*b.module).liste.size(), 1U);
-  EXPECT_EQ(ToutesRecettes(*b.module).vus, 1);
+  EXPECT_EQ(ToutesRecettes(*b.module).size(), 1U);
+  EXPECT_EQ(b.module->bufRecette.nbActifs(), 1);
+  EXPECT_THAT(b.disque.changements(), IsEmpty());
 }
 
-TEST_F(Lecture, CompteTropHautVaJusquAuDernierEnregistrement) {
-  b.AjouteRecette(2, "A");
+TEST_F(Lecture, CompteTropHautVaJusquAuDernierEnregistrementEtSeRepare) {
+  b.AjouteRecette(b.AjouteFamille("Poissons"), "A");
   PoseCompte(b, "GLR2.stp", 5);
   b.Demarre();
-  EXPECT_EQ(ToutesRecettes(*b.module).vus, 2);
+  EXPECT_EQ(ToutesRecettes(*b.module).size(), 2U);
+  EXPECT_EQ(b.module->bufRecette.nbActifs(), 2);
+  EXPECT_THAT(b.disque.changements(), ElementsAre("écrit GLR2.DAT 0+150"));
+  b.module->bufRecette.nbActifs() = 5;
+  b.disque.OublieJournal();
+  EXPECT_EQ(RecettesDeFamille(*b.module, 3).size(), 1U);
+  EXPECT_EQ(Enregistrement<RecRecette>(b.dossier, "GLR2.DAT", 1).actif, 2);
+  EXPECT_THAT(b.disque.changements(), ElementsAre("écrit GLR2.DAT 0+150"));
+}
+
+TEST_F(Lecture, UneReparationDuCompteQuiEchoueEstIgnoree) {
+  PoseCompte(b, "GLR2.stp", 5);
+  b.Demarre();
+  b.disque.EchoueSur("écrit", Panne::disquePlein);
+  EXPECT_EQ(ToutesRecettes(*b.module).size(), 1U);
+  EXPECT_EQ(b.module->bufRecette.nbActifs(), 1);
+  EXPECT_EQ(Enregistrement<RecRecette>(b.dossier, "GLR2.DAT", 1).actif, 5);
+}
+
+TEST_F(Lecture, LesListesDeRecettesExigentLeurFichierEtCelleDesFamillesAucun) {
+  b.Demarre();
+  b.dossier.Supprime("GLR2.DAT");
+  EXPECT_THROW(RecettesDeFamille(*b.module, 2), ErreurExecution);
+  EXPECT_THROW(ToutesRecettes(*b.module), ErreurExecution);
+  EXPECT_THROW(LitEnregistrementRecette(*b.module, 2), ErreurExecution);
+  EXPECT_EQ(b.messages.vus.size(), 3U);
+  b.dossier.Supprime("GLR1.DAT");
+  EXPECT_EQ(ListeFamilles(*b.module).size(), 1U);
+  EXPECT_THROW(ExigeFamilles(*b.module), ErreurExecution);
+  EXPECT_EQ(b.messages.vus.size(), 4U);
+}
+
+TEST_F(Lecture, UnEnregistrementSeLitACoteDeLaRecetteAffichee) {
+  b.AjouteRecette(2, "Bisque");
+  b.Demarre();
+  LitRecette(*b.module, 2);
+  b.disque.OublieJournal();
+  EXPECT_EQ(Rogne(LitEnregistrementRecette(*b.module, 3).nomRecette.brut()), "Bisque");
+  EXPECT_THAT(b.disque.journal(),
+              ElementsAre("existe GLR2.DAT", "existe GLR3.DAT", "lit GLR2.DAT 300+150"));
+  EXPECT_EQ(Rogne(b.module->bufRecette.courant().nomRecette.brut()), "Velouté"_1252);
 }
 
 TEST_F(Lecture, UnFichierReduitASonEnteteNeDonneAucuneRecette) {
   b.Demarre();
   b.dossier.Ecrit("GLR2.DAT", b.dossier.Lit("GLR2.DAT").substr(0, 150));
-  const ListeComptee recettes = ToutesRecettes(*b.module);
-  EXPECT_TRUE(recettes.liste.empty());
-  EXPECT_EQ(recettes.vus, 0);
+  EXPECT_TRUE(ToutesRecettes(*b.module).empty());
+  EXPECT_EQ(b.module->bufRecette.nbActifs(), 0);
 }
 
 TEST_F(Lecture, LEnregistrementDeTravailGardeLeDernierLu) {

@@ -1,0 +1,31 @@
+// The band at the head of a page, or of a window without tabs: its logo, its heading, and at its
+// right end what the catalogue counts.
+#pragma once
+
+#include <string_view>
+
+#include <QLabel>
+#include <QWidget>
+
+#include "controles/ZoneTexte.h"
+
+namespace gastrelle {
+
+class BandeauLogo final : public QWidget {
+ public:
+  /// `logo`: name of a picture. The tooltip is the logo's.
+  BandeauLogo(const char* logo, const QString& entete, const QString& infobulle, QWidget* parent);
+
+  /// A line of text under the heading.
+  void AjouteLigne(const QString& texte);
+  /// The box that tells a number, empty at first.
+  void AjouteAnnonce(const QString& nom);
+  /// What the box tells, Windows-1252. There must be one.
+  void PoseAnnonce(std::string_view texte) { annonce_->PoseTexte(texte); }
+
+ private:
+  QVBoxLayout* titres_;
+  ZoneTexte* annonce_ = nullptr;
+};
+
+}  // namespace gastrelle

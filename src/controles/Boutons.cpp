@@ -1,0 +1,64 @@
+#include "controles/Boutons.h"
+
+#include "controles/Icones.h"
+#include "controles/Touches.h"
+
+namespace gastrelle {
+
+QPushButton* Bouton(const QString& nom, const QString& titre, const QString& icone,
+                    const QString& infobulle, QWidget* parent) {
+  auto* bouton = new QPushButton(IconeDe(icone), titre, parent);
+  bouton->setObjectName(nom);
+  bouton->setToolTip(infobulle);
+  QString lisible = titre;
+  bouton->setAccessibleName(infobulle.isEmpty() ? lisible.remove(u'&') : infobulle);
+  return bouton;
+}
+
+QPushButton* BoutonAide(const QString& nom, QWidget* parent) {
+  QPushButton* bouton =
+      Bouton(nom, QStringLiteral("&Aide"), QStringLiteral("aide"), QStringLiteral("Aide"), parent);
+  QObject::connect(bouton, &QPushButton::clicked, bouton, [] { EnvoieF1(); });
+  return bouton;
+}
+
+PiedBoutons::PiedBoutons() {
+  addStretch(1);
+}
+
+QPushButton* PiedBoutons::Ajoute(const char* nom, const char16_t* titre, const char* icone,
+                                 const char16_t* infobulle, Action action) {
+  QPushButton* bouton = Bouton(QLatin1String(nom), QString::fromUtf16(titre), QLatin1String(icone),
+                               QString::fromUtf16(infobulle), parentWidget());
+  connect(bouton, &QPushButton::clicked, bouton, std::move(action));
+  addWidget(bouton);
+  return bouton;
+}
+
+QPushButton* PiedBoutons::Valide(const char* nom, const char16_t* infobulle, Action action) {
+  return Ajoute(nom, u"&Valider", "valider", infobulle, std::move(action));
+}
+
+QPushButton* PiedBoutons::Efface(const char* nom, Action action) {
+  return Ajoute(nom, u"Effa&cer", "effacer", u"Effacer toutes les saisies", std::move(action));
+}
+
+QPushButton* PiedBoutons::Reinitialise(const char* nom, Action action) {
+  return Ajoute(nom, u"Ré&initialiser", "reinitialiser", u"Réinitialiser", std::move(action));
+}
+
+QPushButton* PiedBoutons::Supprime(const char* nom, const char16_t* infobulle, Action action) {
+  return Ajoute(nom, u"&Supprimer", "supprimer", infobulle, std::move(action));
+}
+
+QPushButton* PiedBoutons::Affiche(const char* nom, const char16_t* infobulle, Action action) {
+  return Ajoute(nom, u"Affi&cher", "valider", infobulle, std::move(action));
+}
+
+QPushButton* PiedBoutons::Aide(const char* nom) {
+  QPushButton* bouton = BoutonAide(QLatin1String(nom), parentWidget());
+  addWidget(bouton);
+  return bouton;
+}
+
+}  // namespace gastrelle

@@ -1,0 +1,46 @@
+#include "controles/DeuxModes.h"
+
+#include <utility>
+
+#include "controles/Focus.h"
+#include "controles/ZoneTexte.h"
+
+namespace gastrelle {
+
+DeuxModes::DeuxModes(const std::array<QRadioButton*, 2>& options, Mode premier, Mode second,
+                     std::optional<std::size_t> debut)
+    : options_(options), modes_{std::move(premier), std::move(second)} {
+  if (debut) {
+    Choisit(*debut);
+  }
+  PermetControles();
+  QObject::connect(options_[0], &QRadioButton::toggled, options_[0], [this] { Change(); });
+}
+
+void DeuxModes::PermetControles() {
+  for (const Mode& mode : modes_) {
+    for (QWidget* controle : mode.controles) {
+      controle->setEnabled(&mode == &present());
+    }
+  }
+}
+
+void DeuxModes::Change() {
+  const Mode& choisi = present();
+  for (QWidget* boite : choisi.vides) {
+    VideBoite(*boite);
+  }
+  if (choisi.surChoix) {
+    choisi.surChoix();
+  }
+  PermetControles();
+  RendFocus();
+}
+
+void DeuxModes::RendFocus() const {
+  if (QWidget* focus = present().focus) {
+    DonneFocus(focus);
+  }
+}
+
+}  // namespace gastrelle

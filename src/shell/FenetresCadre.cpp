@@ -1,0 +1,145 @@
+#include "shell/FenetresCadre.h"
+
+#include <array>
+#include <utility>
+
+#include <QMdiSubWindow>
+
+#include "fiches/frmMenus.h"
+#include "fiches/frmTrucs.h"
+#include "fromages/frmFromages.h"
+#include "recettes/frmRecettes.h"
+
+namespace gastrelle {
+namespace {
+
+/// A window, its entry in the view menu, and what makes it: nothing if it isn't built yet.
+struct LigneFenetre {
+  EntreeVue vue;
+  const char* entree;
+  FenetreEnfant* (*cree)(Module1&, Cadre&);
+};
+
+template <class Fenetre>
+FenetreEnfant* CreeFenetre(Module1& module, Cadre& cadre) {
+  return new Fenetre(module, cadre);
+}
+
+constexpr std::array<LigneFenetre, nombreVues> lignes{{
+    {EntreeVue::recettes, "mnuViewRecettes", CreeFenetre<frmRecettes>},
+    {EntreeVue::fromages, "mnuViewFromages", CreeFenetre<frmFromages>},
+    {EntreeVue::menus, "mnuViewMenus", CreeFenetre<frmMenus>},
+    {EntreeVue::vins, "mnuViewVins", nullptr},
+    {EntreeVue::millesimes, "mnuViewMillesimes", nullptr},
+    {EntreeVue::termesTrucsAstuces, "mnuViewTermesTrucsAstuces", CreeFenetre<frmTrucs>},
+    {EntreeVue::favoris, "mnuViewFavoris", nullptr},
+    {EntreeVue::mesNotes, "mnuViewMesNotes", nullptr},
+    {EntreeVue::mesCourses, "mnuViewMesCourses", nullptr},
+}};
+
+constexpr const LigneFenetre& Ligne(EntreeVue vue) {
+  return lignes[static_cast<std::size_t>(vue)];
+}
+
+constexpr const char* marqueListe = "fenetre";  // property of the entries that list a window
+
+}  // namespace
+
+const char* NomEntree(EntreeVue vue) {
+  return Ligne(vue).entree;
+}
+
+FenetresCadre::FenetresCadre(Module1& module, Cadre& cadre, QMdiArea& place, QIcon icone)
+    : module_(module), cadre_(cadre), place_(place), icone_(std::move(icone)), suivi_(place) {}
+
+void FenetresCadre::Montre(EntreeVue vue) {
+  if (EstContexteDe(module_.contexteActif, vue) || Ligne(vue).cree == nullptr) {
+    return;
+  }
+  module_.services.pointeur.Sablier();
+  QMdiSubWindow* fenetre = Ouverte(vue);
+  if (fenetre == nullptr) {
+    fenetre = &Cree(vue);
+  } else if (fenetre->isMinimized()) {
+    module_.services.pointeur.Normal();
+  }
+  if (!fenetre->isVisible()) {
+    fenetre->show();
+  }
+  VaA(*fenetre);
+  fenetre->raise();
+}
+
+void FenetresCadre::MontreMaximisee(EntreeVue vue) {
+  Montre(vue);
+  Ouverte(vue)->showMaximized();
+}
+
+void FenetresCadre::VaA(QMdiSubWindow& fenetre) {
+  if (fenetre.isMinimized()) {
+    fenetre.showNormal();
+  }
+  place_.setActiveSubWindow(&fenetre);
+}
+
+QMdiSubWindow* FenetresCadre::Ouverte(EntreeVue vue) const {
+  const auto trouvee = ouvertes_.find(vue);
+  return trouvee == ouvertes_.end() ? nullptr : qobject_cast<QMdiSubWindow*>(trouvee->second);
+}
+
+QMdiSubWindow& FenetresCadre::Cree(EntreeVue vue) {
+  auto* fenetre = new QMdiSubWindow;
+  fenetre->setAttribute(Qt::WA_DeleteOnClose);
+  fenetre->setWidget(Ligne(vue).cree(module_, cadre_));
+  fenetre->setWindowIcon(icone_);
+  place_.addSubWindow(fenetre);
+  ouvertes_[vue] = fenetre;
+  suivi_.Suit(*fenetre);
+  AppliqueTaille(vue, *fenetre);
+  return *fenetre;
+}
+
+void FenetresCadre::AppliqueTaille(EntreeVue vue, QMdiSubWindow& fenetre) {
+  const bool premiere =
+      vue == EntreeVue::recettes && std::exchange(module_.premiereOuverture, false);
+  const bool seule = place_.subWindowList().size() == 1;
+  if ((premiere || seule) && module_.prefs[0].fenetreNormale == 0) {
+    fenetre.showMaximized();
+  } else {
+    fenetre.show();
+  }
+}
+
+void FenetresCadre::DechargeTout() {
+  for (const LigneFenetre& ligne : lignes) {
+    if (QMdiSubWindow* fenetre = Ouverte(ligne.vue)) {
+      static_cast<FenetreEnfant*>(fenetre->widget())->Decharge();
+      ouvertes_.erase(ligne.vue);
+    }
+  }
+}
+
+void FenetresCadre::Enumere(QMenu& menu) {
+  for (QAction* action : menu.actions()) {
+    if (action->property(marqueListe).isValid()) {
+      delete action;
+    }
+  }
+  int numero = 0;
+  for (QMdiSubWindow* fenetre : place_.subWindowList()) {
+    if (!fenetre->isVisible()) {
+      continue;
+    }
+    if (numero == 0) {
+      menu.addSeparator()->setProperty(marqueListe, true);
+    }
+    QAction* action =
+        menu.addAction(QStringLiteral("&%1 %2").arg(++numero).arg(fenetre->windowTitle()));
+    action->setProperty(marqueListe, true);
+    action->setCheckable(true);
+    action->setChecked(fenetre == place_.activeSubWindow());
+    QObject::connect(action, &QAction::triggered, fenetre, [this, fenetre] { VaA(*fenetre); });
+  }
+}
+
+}  // namespace gastrelle

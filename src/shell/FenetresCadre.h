@@ -1,0 +1,53 @@
+// The child windows of the frame: which there are, how they are made, shown, sized, listed and
+// unloaded.
+#pragma once
+
+#include <map>
+
+#include <QIcon>
+#include <QMdiArea>
+#include <QMenu>
+#include <QPointer>
+
+#include "controles/Cadre.h"
+#include "controles/FenetreEnfant.h"
+#include "data/Module1.h"
+#include "shell/SuiviFenetres.h"
+
+namespace gastrelle {
+
+/// The entry of the view menu that opens a window.
+[[nodiscard]] const char* NomEntree(EntreeVue vue);
+
+class FenetresCadre {
+ public:
+  /// The windows live in `place` and bear `icone`.
+  FenetresCadre(Module1& module, Cadre& cadre, QMdiArea& place, QIcon icone);
+
+  /// Shows a window and brings it to the front, unless it is the active one already; makes it first
+  /// if it isn't there.
+  void Montre(EntreeVue vue);
+  /// The same, the window then being maximised.
+  void MontreMaximisee(EntreeVue vue);
+  /// Unloads all windows, in the order of the view menu.
+  void DechargeTout();
+  /// Writes the open windows behind the entries of a menu, in the place of those written before.
+  void Enumere(QMenu& menu);
+  /// The window that is active, or null.
+  [[nodiscard]] FenetreEnfant* active() const { return suivi_.active(); }
+
+ private:
+  [[nodiscard]] QMdiSubWindow* Ouverte(EntreeVue vue) const;
+  QMdiSubWindow& Cree(EntreeVue vue);
+  void AppliqueTaille(EntreeVue vue, QMdiSubWindow& fenetre);
+  void VaA(QMdiSubWindow& fenetre);
+
+  Module1& module_;
+  Cadre& cadre_;
+  QMdiArea& place_;
+  const QIcon icone_;
+  SuiviFenetres suivi_;
+  std::map<EntreeVue, QPointer<QWidget>> ouvertes_;
+};
+
+}  // namespace gastrelle
