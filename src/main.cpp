@@ -13,21 +13,6 @@
 #include "shell/Application.h"
 #include "shell/frmMain.h"
 
-namespace {
-
-/// The connection to the X server that the toolkit has opened; null on any other system.
-void* EcranX11(const QGuiApplication& application) {
-#if QT_CONFIG(xcb)
-  const auto* x11 = application.nativeInterface<QNativeInterface::QX11Application>();
-  return x11 == nullptr ? nullptr : x11->display();
-#else
-  static_cast<void>(application);
-  return nullptr;
-#endif
-}
-
-}  // namespace
-
 int main(int argc, char** argv) {
   using namespace gastrelle;
   MessagesEcran messages;
@@ -36,8 +21,8 @@ int main(int argc, char** argv) {
   AssociationSysteme association;
   SonSysteme son;
   ProcessusSysteme processus;
-  Application application(argc, argv, messages, pointeur, processus);
-  ClavierSysteme clavier(EcranX11(application));
+  const Application application(argc, argv, messages, pointeur, processus);
+  ClavierSysteme clavier;
 
   const std::filesystem::path dossier = QApplication::applicationDirPath().toStdU16String();
   Disque disque(dossier);

@@ -27,32 +27,12 @@ PiedBoutons::PiedBoutons() {
 }
 
 QPushButton* PiedBoutons::Ajoute(const char* nom, const char16_t* titre, const char* icone,
-                                 const char16_t* infobulle, Action action) {
+                                 const char16_t* infobulle, const Action& action) {
   QPushButton* bouton = Bouton(QLatin1String(nom), QString::fromUtf16(titre), QLatin1String(icone),
                                QString::fromUtf16(infobulle), parentWidget());
-  connect(bouton, &QPushButton::clicked, bouton, std::move(action));
+  connect(bouton, &QPushButton::clicked, bouton, action);
   addWidget(bouton);
   return bouton;
-}
-
-QPushButton* PiedBoutons::Valide(const char* nom, const char16_t* infobulle, Action action) {
-  return Ajoute(nom, u"&Valider", "valider", infobulle, std::move(action));
-}
-
-QPushButton* PiedBoutons::Efface(const char* nom, Action action) {
-  return Ajoute(nom, u"Effa&cer", "effacer", u"Effacer toutes les saisies", std::move(action));
-}
-
-QPushButton* PiedBoutons::Reinitialise(const char* nom, Action action) {
-  return Ajoute(nom, u"Ré&initialiser", "reinitialiser", u"Réinitialiser", std::move(action));
-}
-
-QPushButton* PiedBoutons::Supprime(const char* nom, const char16_t* infobulle, Action action) {
-  return Ajoute(nom, u"&Supprimer", "supprimer", infobulle, std::move(action));
-}
-
-QPushButton* PiedBoutons::Affiche(const char* nom, const char16_t* infobulle, Action action) {
-  return Ajoute(nom, u"Affi&cher", "valider", infobulle, std::move(action));
 }
 
 QPushButton* PiedBoutons::Aide(const char* nom) {

@@ -24,17 +24,27 @@ class PiedBoutons final : public QHBoxLayout {
 
   PiedBoutons();
 
-  QPushButton* Valide(const char* nom, const char16_t* infobulle, Action action);
-  QPushButton* Efface(const char* nom, Action action);
-  QPushButton* Reinitialise(const char* nom, Action action);
-  QPushButton* Supprime(const char* nom, const char16_t* infobulle, Action action);
+  QPushButton* Valide(const char* nom, const char16_t* infobulle, const Action& action) {
+    return Ajoute(nom, u"&Valider", "valider", infobulle, action);
+  }
+  QPushButton* Efface(const char* nom, const Action& action) {
+    return Ajoute(nom, u"Effa&cer", "effacer", u"Effacer toutes les saisies", action);
+  }
+  QPushButton* Reinitialise(const char* nom, const Action& action) {
+    return Ajoute(nom, u"Ré&initialiser", "reinitialiser", u"Réinitialiser", action);
+  }
+  QPushButton* Supprime(const char* nom, const char16_t* infobulle, const Action& action) {
+    return Ajoute(nom, u"&Supprimer", "supprimer", infobulle, action);
+  }
   /// Shows what is selected in a list.
-  QPushButton* Affiche(const char* nom, const char16_t* infobulle, Action action);
+  QPushButton* Affiche(const char* nom, const char16_t* infobulle, const Action& action) {
+    return Ajoute(nom, u"Affi&cher", "valider", infobulle, action);
+  }
   QPushButton* Aide(const char* nom);
 
  private:
   QPushButton* Ajoute(const char* nom, const char16_t* titre, const char* icone,
-                      const char16_t* infobulle, Action action);
+                      const char16_t* infobulle, const Action& action);
 };
 
 }  // namespace gastrelle

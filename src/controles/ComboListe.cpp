@@ -1,7 +1,5 @@
 #include "controles/ComboListe.h"
 
-#include <algorithm>
-
 #include "data/Texte1252.h"
 #include "plateforme/ErreurExecution.h"
 
@@ -52,18 +50,10 @@ void ComboListe::ChoisitDonnee(std::int32_t donnee) {
   Choisit(IndiceDe(donnee));
 }
 
-bool ComboListe::ContientTexte(std::string_view texte) const {
-  const std::string cherche = Majuscules(Rogne(texte));
-  return std::any_of(entrees().begin(), entrees().end(), [&](const EntreeListe& entree) {
-    return Majuscules(Rogne(entree.texte)) == cherche;
-  });
-}
-
-bool ComboListe::AutreContientTexte(std::string_view texte) const {
+bool ComboListe::ContientTexte(std::string_view texte, int sauf) const {
   const std::string cherche = Majuscules(Rogne(texte));
   for (int i = 0; i < count(); ++i) {
-    const EntreeListe& entree = entrees()[static_cast<std::size_t>(i)];
-    if (i != currentIndex() && Majuscules(Rogne(entree.texte)) == cherche) {
+    if (i != sauf && Majuscules(Rogne(entrees()[static_cast<std::size_t>(i)].texte)) == cherche) {
       return true;
     }
   }

@@ -33,14 +33,13 @@ class ComboListe final : public QComboBox {
 
   /// Index of the first entry that bears `donnee`; raises error 53 if none does.
   [[nodiscard]] int IndiceDe(std::int32_t donnee) const;
-  /// True if an entry reads like `texte`, case ignored, both trimmed.
-  [[nodiscard]] bool ContientTexte(std::string_view texte) const;
-  /// The same among the entries that aren't chosen.
-  [[nodiscard]] bool AutreContientTexte(std::string_view texte) const;
+  /// True if an entry, but for the one at `sauf`, reads like `texte`, case and outer blanks
+  /// ignored.
+  [[nodiscard]] bool ContientTexte(std::string_view texte, int sauf = -1) const;
 
   /// Item data of the chosen entry; a failure when there is none.
   [[nodiscard]] std::int32_t Donnee() const;
-  /// Text of the chosen entry, Windows-1252; empty when there is none.
+  /// Text of the chosen entry, Windows-1252 and trimmed as all names are; empty when there is none.
   [[nodiscard]] std::string Texte() const;
 
   /// Opens the list, whose view is made the first time.

@@ -27,9 +27,7 @@ void DeuxModes::PermetControles() {
 
 void DeuxModes::Change() {
   const Mode& choisi = present();
-  for (QWidget* boite : choisi.vides) {
-    VideBoite(*boite);
-  }
+  VideBoites(choisi.vides);
   if (choisi.surChoix) {
     choisi.surChoix();
   }

@@ -86,9 +86,9 @@ QSize FenetreEnfant::minimumSizeHint() const {
   return QWidget::minimumSizeHint().expandedTo(Place(description_.moindre));
 }
 
-QSize FenetreEnfant::Place(const Etendue& etendue) const {
+QSize FenetreEnfant::Place(const QSize& etendue) const {
   const QFontMetrics metrique = fontMetrics();
-  return {etendue.lettres * metrique.averageCharWidth(), etendue.lignes * metrique.lineSpacing()};
+  return {etendue.width() * metrique.averageCharWidth(), etendue.height() * metrique.lineSpacing()};
 }
 
 void FenetreEnfant::Refuse(std::string_view texte, QWidget* focus) {
@@ -105,11 +105,15 @@ void FenetreEnfant::RefuseAvecBip(std::string_view texte, QWidget* focus) {
   Refuse(texte, focus);
 }
 
-bool FenetreEnfant::ConfirmeEffacement(std::initializer_list<const QWidget*> boites) {
+bool FenetreEnfant::EffaceSaisies(std::initializer_list<QWidget*> boites) {
   const bool saisie = std::any_of(boites.begin(), boites.end(),
                                   [](const QWidget* boite) { return !EstVide(*boite); });
-  return !saisie || module_.services.messages.Demande("Effacer la saisie : êtes-sur sûr ?"_1252) ==
-                        Reponse::oui;
+  const bool efface = !saisie || module_.services.messages.Demande(
+                                     "Effacer la saisie : êtes-sur sûr ?"_1252) == Reponse::oui;
+  if (efface) {
+    VideBoites(boites);
+  }
+  return efface;
 }
 
 }  // namespace gastrelle

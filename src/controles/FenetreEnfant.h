@@ -13,12 +13,6 @@
 
 namespace gastrelle {
 
-/// Room for so many letters of mean width by so many lines.
-struct Etendue {
-  int lettres;
-  int lignes;
-};
-
 /// What is peculiar to a window, as data.
 struct DescriptionFenetre {
   const char* nom;          ///< objectName
@@ -27,8 +21,8 @@ struct DescriptionFenetre {
   const char* logo;         ///< picture of the logo band
   bool razReduite = false;  ///< resets the frame when it is minimised
   bool seCache = false;     ///< its close box hides it: the program alone unloads it
-  Etendue taille{116, 35};  ///< at first, at normal size
-  Etendue moindre{116, 27};
+  QSize taille{116, 35};    ///< at first, at normal size: letters of mean width, lines
+  QSize moindre{116, 27};
 };
 
 class FenetreEnfant : public QWidget {
@@ -64,8 +58,8 @@ class FenetreEnfant : public QWidget {
   void Refuse(std::string_view texte, QWidget* focus);
   /// A refusal with a beep before its message.
   void RefuseAvecBip(std::string_view texte, QWidget* focus);
-  /// Asks before entries are wiped out, if any of the boxes holds text. True: go on.
-  [[nodiscard]] bool ConfirmeEffacement(std::initializer_list<const QWidget*> boites);
+  /// Empties text boxes, after a question if any of them holds text. False: the user gave up.
+  bool EffaceSaisies(std::initializer_list<QWidget*> boites);
 
   /// The sizes of the description, or more if what was made so far needs more.
   [[nodiscard]] QSize sizeHint() const override;
@@ -85,7 +79,7 @@ class FenetreEnfant : public QWidget {
   [[nodiscard]] bool EstReduite() const;
   /// The window in the frame that holds this one, or itself when it stands alone.
   [[nodiscard]] QWidget& Contour();
-  [[nodiscard]] QSize Place(const Etendue& etendue) const;
+  [[nodiscard]] QSize Place(const QSize& etendue) const;
 
   Module1& module_;
   Cadre& cadre_;

@@ -9,9 +9,17 @@ namespace gastrelle {
 
 /// Gives the focus if the control can take it, at once or when its window is shown; otherwise
 /// nothing happens.
-void DonneFocus(QWidget* controle);
+inline void DonneFocus(QWidget* controle) {
+  if (controle->isVisibleTo(controle->window()) && controle->isEnabled()) {
+    controle->setFocus(Qt::OtherFocusReason);
+  }
+}
 
 /// The Tab key goes through the controls in this order, whatever the order of their making.
-void OrdonneClavier(std::initializer_list<QWidget*> controles);
+inline void OrdonneClavier(std::initializer_list<QWidget*> controles) {
+  for (auto i = controles.begin(); i + 1 < controles.end(); ++i) {
+    QWidget::setTabOrder(*i, *(i + 1));
+  }
+}
 
 }  // namespace gastrelle

@@ -6,7 +6,6 @@
 #include <QFile>
 #include <QIconEngine>
 #include <QPainter>
-#include <QResource>
 
 namespace gastrelle {
 namespace {
@@ -60,11 +59,7 @@ class MoteurIcone final : public QIconEngine {
     const int taille = assez != tailles.end() ? *assez : tailles.back();
     if (!lues_.contains(taille)) {
       lues_.append(taille);
-      // The format is told, so that no reader or icon engine is looked for.
-      const QByteArray octets = QResource(Fichier(nom_, taille)).uncompressedData();
-      QPixmap image;
-      image.loadFromData(octets, "PNG");
-      icone_.addPixmap(image);
+      icone_.addPixmap(QPixmap(Fichier(nom_, taille)));
     }
     return icone_;
   }

@@ -11,10 +11,17 @@ namespace gastrelle {
 class ListePartagee {
  public:
   /// From now on a list shows the entries, and ahead of them `epingle` if it isn't empty.
-  void Suit(ComboListe& combo, std::string_view epingle = {});
+  void Suit(ComboListe& combo, std::string_view epingle = {}) {
+    Garnit(suiveuses_.emplace_back(Suiveuse{&combo, std::string(epingle)}));
+  }
 
   /// New entries, in every list, where nothing is chosen then.
-  void Remplace(Liste entrees);
+  void Remplace(Liste entrees) {
+    entrees_ = std::move(entrees);
+    for (const Suiveuse& suiveuse : suiveuses_) {
+      Garnit(suiveuse);
+    }
+  }
 
  private:
   struct Suiveuse {
@@ -22,7 +29,13 @@ class ListePartagee {
     std::string epingle;
   };
 
-  void Garnit(const Suiveuse& liste) const;
+  void Garnit(const Suiveuse& suiveuse) const {
+    suiveuse.combo->Vide();
+    if (!suiveuse.epingle.empty()) {
+      suiveuse.combo->modele().Epingle(suiveuse.epingle);
+    }
+    suiveuse.combo->Ajoute(entrees_);
+  }
 
   Liste entrees_;
   std::vector<Suiveuse> suiveuses_;

@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QKeyEvent>
+#include <QMenu>
 #include <QTextBlock>
 #include <QTextCursor>
 
@@ -171,6 +172,29 @@ void LigneTexte::keyPressEvent(QKeyEvent* touche) {
   }
 }
 
+void LigneTexte::contextMenuEvent(QContextMenuEvent* evenement) {
+  QMenu* menu = createStandardContextMenu();
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  const QString touche =
+      u'\t' + QKeySequence(QKeySequence::Paste).toString(QKeySequence::NativeText);
+  for (QAction* action : menu->actions()) {
+    if (action->text().endsWith(touche)) {
+      action->disconnect(this);
+      connect(action, &QAction::triggered, this, &LigneTexte::paste);
+    }
+  }
+  menu->popup(evenement->globalPos());
+}
+
+void LigneTexte::mouseReleaseEvent(QMouseEvent* evenement) {
+  if (evenement->button() == Qt::MiddleButton && !isReadOnly()) {
+    deselect();
+    Insere(QApplication::clipboard()->text(QClipboard::Selection));
+  } else {
+    QLineEdit::mouseReleaseEvent(evenement);
+  }
+}
+
 void LigneTexte::Corrige(const QString& saisi) {
   bool perte = false;
   const QString garde = UneLigne(Acceptable(saisi, perte));
@@ -193,11 +217,13 @@ bool EstVide(const QWidget& boite) {
   return dynamic_cast<const LigneTexte&>(boite).text().isEmpty();
 }
 
-void VideBoite(QWidget& boite) {
-  if (auto* zone = dynamic_cast<ZoneTexte*>(&boite)) {
-    zone->PoseTexte({});
-  } else {
-    dynamic_cast<LigneTexte&>(boite).PoseTexte({});
+void VideBoites(std::span<QWidget* const> boites) {
+  for (QWidget* boite : boites) {
+    if (auto* zone = dynamic_cast<ZoneTexte*>(boite)) {
+      zone->PoseTexte({});
+    } else {
+      dynamic_cast<LigneTexte&>(*boite).PoseTexte({});
+    }
   }
 }
 

@@ -2,6 +2,7 @@
 // composed form at once, and a character that Windows-1252 doesn't hold shows as "?" with a beep.
 #pragma once
 
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -52,12 +53,15 @@ class LigneTexte final : public QLineEdit {
   void RogneTexte() { PoseTexte(std::string(Rogne(Texte()))); }
   void RendLectureSeule();
 
-  /// Puts a text in the place of the selection. It is composed before its length counts.
+  /// Puts a text in the place of the selection. It is composed before its length counts. Whatever
+  /// is pasted comes this way: by the keyboard, the box's own menu or the middle button.
   void Insere(const QString& texte);
   void paste();
 
  protected:
   void keyPressEvent(QKeyEvent* touche) override;
+  void contextMenuEvent(QContextMenuEvent* evenement) override;
+  void mouseReleaseEvent(QMouseEvent* evenement) override;
 
  private:
   void Corrige(const QString& saisi);
@@ -68,7 +72,7 @@ class LigneTexte final : public QLineEdit {
 /// True if a text box (of one line or several) holds nothing.
 [[nodiscard]] bool EstVide(const QWidget& boite);
 
-/// Empties a text box (of one line or several).
-void VideBoite(QWidget& boite);
+/// Empties text boxes (of one line or several).
+void VideBoites(std::span<QWidget* const> boites);
 
 }  // namespace gastrelle

@@ -7,8 +7,9 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cstddef>
-#include <cstdint>
+#include <cstring>
 #include <span>
 #include <string>
 #include <string_view>
@@ -72,44 +73,27 @@ constexpr bool SeSuivent() {
   return bon;
 }
 
-inline void Range(std::int16_t valeur, char* place) {
-  const auto bits = static_cast<std::uint16_t>(valeur);
-  for (std::size_t i = 0; i < sizeof bits; ++i) {
-    place[i] = static_cast<char>(static_cast<unsigned>(bits) >> (8U * i));
-  }
-}
+// As in memory on every machine that the program is built for.
+static_assert(std::endian::native == std::endian::little);
 
-inline void Range(std::int32_t valeur, char* place) {
-  const auto bits = static_cast<std::uint32_t>(valeur);
-  for (std::size_t i = 0; i < sizeof bits; ++i) {
-    place[i] = static_cast<char>(bits >> (8U * i));
-  }
+template <class Entier>
+void Range(Entier valeur, char* place) {
+  std::memcpy(place, &valeur, sizeof valeur);
 }
 
 template <std::size_t N>
 void Range(const TexteFixe<N>& valeur, char* place) {
-  std::copy_n(valeur.brut().data(), N, place);
+  std::memcpy(place, valeur.brut().data(), N);
 }
 
-inline std::uint32_t Bits(const char* place, std::size_t largeur) {
-  std::uint32_t bits = 0;
-  for (std::size_t i = largeur; i-- > 0;) {
-    bits = (bits << 8U) | static_cast<unsigned char>(place[i]);
-  }
-  return bits;
-}
-
-inline void Tire(std::int16_t& valeur, const char* place) {
-  valeur = static_cast<std::int16_t>(Bits(place, sizeof valeur));
-}
-
-inline void Tire(std::int32_t& valeur, const char* place) {
-  valeur = static_cast<std::int32_t>(Bits(place, sizeof valeur));
+template <class Entier>
+void Tire(Entier& valeur, const char* place) {
+  std::memcpy(&valeur, place, sizeof valeur);
 }
 
 template <std::size_t N>
 void Tire(TexteFixe<N>& valeur, const char* place) {
-  std::copy_n(place, N, valeur.octets().data());
+  std::memcpy(valeur.octets().data(), place, N);
 }
 
 }  // namespace detail

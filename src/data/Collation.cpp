@@ -63,64 +63,75 @@ const Poids& PoidsDe(char c) {
   return poids[static_cast<unsigned char>(c)];
 }
 
-/// Longest key of a text of that length.
-constexpr std::size_t LongueurCle(std::size_t longueur) {
-  return 3 * longueur + 1;
-}
-
-/// Writes the key of a text: its base letters, then, if it has accents, a zero byte and the accents
-/// up to the last one. Byte order of keys is list order. Returns the end of the key.
-char* EcritCle(char* place, std::string_view texte) {
-  std::size_t accents = 0;
-  for (std::size_t i = 0; i < texte.size(); ++i) {
-    const Poids& p = PoidsDe(texte[i]);
+/// Writes the base letters of a text, at most two for each of its bytes. Returns their end.
+char* EcritBases(char* place, std::string_view texte) {
+  for (const char c : texte) {
+    const Poids& p = PoidsDe(c);
     *place++ = p.base;
     if (p.seconde != 0) {
       *place++ = p.seconde;
-    }
-    accents = p.accent != 0 ? i + 1 : accents;
-  }
-  if (accents > 0) {
-    *place++ = '\0';
-    for (std::size_t i = 0; i < accents; ++i) {
-      *place++ = PoidsDe(texte[i]).accent;
     }
   }
   return place;
 }
 
-std::string Cle(std::string_view texte) {
-  std::string cle(LongueurCle(texte.size()), '\0');
-  cle.resize(static_cast<std::size_t>(EcritCle(cle.data(), texte) - cle.data()));
-  return cle;
+std::string Bases(std::string_view texte) {
+  std::string bases(2 * texte.size(), '\0');
+  bases.resize(static_cast<std::size_t>(EcritBases(bases.data(), texte) - bases.data()));
+  return bases;
 }
 
-/// An entry of the list while it is sorted: its key, and eight bytes of it as a number, so that
-/// most comparisons touch no text.
+/// The accents of a text up to the last one, byte by byte.
+std::string Accents(std::string_view texte) {
+  std::string accents;
+  for (std::size_t i = 0; i < texte.size(); ++i) {
+    if (PoidsDe(texte[i]).accent != 0) {
+      accents.resize(i);
+      accents += PoidsDe(texte[i]).accent;
+    }
+  }
+  return accents;
+}
+
+int CompareAccents(std::string_view gauche, std::string_view droite) {
+  return gauche == droite ? 0 : Accents(gauche).compare(Accents(droite));
+}
+
+/// An entry of the list while it is sorted: its base letters, and eight of them as a number, so
+/// that most comparisons touch no text. Of the 7 ms in which 32,766 titles are sorted that saves 2.
 struct Rang {
   std::uint64_t tranche;
-  const char* cle;
+  const char* bases;
   std::uint32_t longueur;
   std::uint32_t indice;
 };
 
-/// The eight bytes of a key from `depuis` on; a key that ends before reads as zeros.
+/// The eight base letters from `depuis` on; what lies behind the last one reads as zeros.
 std::uint64_t Tranche(const Rang& rang, std::size_t depuis) {
   std::uint64_t tranche = 0;
   for (std::size_t i = depuis; i < depuis + sizeof tranche; ++i) {
-    tranche = (tranche << 8U) | (i < rang.longueur ? static_cast<unsigned char>(rang.cle[i]) : 0U);
+    tranche =
+        (tranche << 8U) | (i < rang.longueur ? static_cast<unsigned char>(rang.bases[i]) : 0U);
   }
   return tranche;
 }
 
-/// Sorts by the eight bytes from `depuis` on, then each run of equal ones by the next eight.
-void TrieRangs(std::span<Rang> rangs, std::size_t depuis) {
+/// Puts entries with the same base letters in order, but for those that one has more.
+bool Precede(const Rang& a, const Rang& b, const Liste& liste) {
+  if (a.longueur != b.longueur) {
+    return a.longueur < b.longueur;
+  }
+  const int accents = CompareAccents(liste[a.indice].texte, liste[b.indice].texte);
+  return accents != 0 ? accents < 0 : a.indice < b.indice;
+}
+
+/// Sorts by the eight base letters from `depuis` on, then each run of equal ones by the next eight.
+void TrieRangs(std::span<Rang> rangs, std::size_t depuis, const Liste& liste) {
   const bool epuises =
       std::all_of(rangs.begin(), rangs.end(), [&](const Rang& r) { return r.longueur <= depuis; });
   if (epuises) {
-    std::sort(rangs.begin(), rangs.end(), [](const Rang& a, const Rang& b) {
-      return a.longueur != b.longueur ? a.longueur < b.longueur : a.indice < b.indice;
-    });
+    std::sort(rangs.begin(), rangs.end(),
+              [&](const Rang& a, const Rang& b) { return Precede(a, b, liste); });
     return;
   }
   for (Rang& rang : rangs) {
@@ -134,7 +145,7 @@ void TrieRangs(std::span<Rang> rangs, std::size_t depuis) {
       ++fin;
     }
     if (fin - debut > 1) {
-      TrieRangs(rangs.subspan(debut, fin - debut), depuis + sizeof(std::uint64_t));
+      TrieRangs(rangs.subspan(debut, fin - debut), depuis + sizeof(std::uint64_t), liste);
     }
     debut = fin;
   }
@@ -143,25 +154,26 @@ void TrieRangs(std::span<Rang> rangs, std::size_t depuis) {
 }  // namespace
 
 int CompareFrancais(std::string_view gauche, std::string_view droite) {
-  return Cle(gauche).compare(Cle(droite));
+  const int bases = Bases(gauche).compare(Bases(droite));
+  return bases != 0 ? bases : CompareAccents(gauche, droite);
 }
 
 void TrieFrancais(Liste& liste) {
-  std::size_t longueur = 0;
+  std::size_t octets = 0;
   for (const EntreeListe& entree : liste) {
-    longueur += LongueurCle(entree.texte.size());
+    octets += entree.texte.size();
   }
-  const auto cles = std::make_unique_for_overwrite<char[]>(longueur);
+  const auto bases = std::make_unique_for_overwrite<char[]>(2 * octets);
   std::vector<Rang> rangs;
   rangs.reserve(liste.size());
-  char* place = cles.get();
+  char* place = bases.get();
   for (const EntreeListe& entree : liste) {
     const char* debut = place;
-    place = EcritCle(place, entree.texte);
+    place = EcritBases(place, entree.texte);
     rangs.push_back({0, debut, static_cast<std::uint32_t>(place - debut),
                      static_cast<std::uint32_t>(rangs.size())});
   }
-  TrieRangs(rangs, 0);
+  TrieRangs(rangs, 0, liste);
   Liste triee;
   triee.reserve(liste.size());
   for (const Rang& r : rangs) {

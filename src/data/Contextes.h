@@ -24,6 +24,8 @@ inline constexpr std::size_t nombreVues = 9;
 
 /// No window is active.
 inline constexpr std::int16_t sansContexte = 0;
+/// How many codes a window may use.
+inline constexpr int contextesParFenetre = 10;
 /// The tab on which the record of a whole window is chosen.
 inline constexpr int ongletListe = 1;
 
@@ -35,8 +37,7 @@ constexpr std::int16_t Contexte(EntreeVue vue, int onglet = 0) {
 
 /// True if that code is one of the window's.
 constexpr bool EstContexteDe(std::int16_t code, EntreeVue vue) {
-  constexpr int parFenetre = 10;
-  return code / parFenetre == Contexte(vue) / parFenetre;
+  return Contexte(vue) <= code && code < Contexte(vue, contextesParFenetre);
 }
 
 }  // namespace gastrelle

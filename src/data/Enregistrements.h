@@ -16,7 +16,6 @@ inline constexpr std::int16_t supprime = 0;
 struct RecFamille {
   std::int16_t actif = 0;
   TexteFixe<128> nomFamille;
-
   static constexpr auto champNom = &RecFamille::nomFamille;
 };
 
@@ -30,7 +29,6 @@ struct RecRecette {
   std::int32_t lgTexte = 0;
   std::int32_t posImage = 0;
   std::int32_t lgImage = 0;
-
   static constexpr auto champNom = &RecRecette::nomRecette;
 };
 
@@ -44,7 +42,6 @@ struct RecFromage {
   std::int16_t dernierMois = 0;
   std::int32_t posTexte = 0;
   std::int32_t lgTexte = 0;
-
   static constexpr auto champNom = &RecFromage::nomFromage;
 };
 
@@ -54,14 +51,12 @@ struct RecFiche {
   TexteFixe<128> titre;
   std::int32_t posTexte = 0;
   std::int32_t lgTexte = 0;
-
   static constexpr auto champNom = &RecFiche::titre;
 };
 
 struct RecRegion {
   std::int16_t actif = 0;
   TexteFixe<64> nomRegion;
-
   static constexpr auto champNom = &RecRegion::nomRegion;
 };
 
@@ -83,7 +78,6 @@ struct RecVin {
   std::int32_t lgTexte = 0;
   std::int32_t posNotesCave = 0;
   std::int32_t lgNotesCave = 0;
-
   static constexpr auto champNom = &RecVin::nomVin;
 };
 
@@ -113,7 +107,6 @@ struct RecFavori {
   TexteFixe<256> siteWeb;
   std::int32_t posTexte = 0;
   std::int32_t lgTexte = 0;
-
   static constexpr auto champNom = &RecFavori::nomFavori;
 };
 

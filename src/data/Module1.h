@@ -85,28 +85,16 @@ struct Module1 {
   /// Calls `f` with the record file of a catalogue that has a header.
   template <class F>
   void AvecCatalogue(Donnees fichier, F&& f) {
-    switch (fichier) {
-      case Donnees::GLR1:
-        return f(bufFamille);
-      case Donnees::GLR2:
-        return f(bufRecette);
-      case Donnees::GLF1:
-        return f(bufFromage);
-      case Donnees::GLM1:
-        return f(bufMenu);
-      case Donnees::GLV1:
-        return f(bufRegion);
-      case Donnees::GLV2:
-        return f(bufVin);
-      case Donnees::GLT1:
-        return f(bufTruc);
-      case Donnees::GLFV1:
-        return f(bufCategorie);
-      case Donnees::GLFV2:
-        return f(bufFavori);
-      default:
-        return;
-    }
+    const auto si = [&](Donnees sien, auto& catalogue) { fichier == sien ? f(catalogue) : void(); };
+    si(Donnees::GLR1, bufFamille);
+    si(Donnees::GLR2, bufRecette);
+    si(Donnees::GLF1, bufFromage);
+    si(Donnees::GLM1, bufMenu);
+    si(Donnees::GLV1, bufRegion);
+    si(Donnees::GLV2, bufVin);
+    si(Donnees::GLT1, bufTruc);
+    si(Donnees::GLFV1, bufCategorie);
+    si(Donnees::GLFV2, bufFavori);
   }
 };
 

@@ -17,7 +17,7 @@ void frmFiches::MontreEnregistrement(std::int32_t numero) {
 }
 
 std::string frmFiches::Annonce() {
-  const DescriptionFiches& description = liste().description();
+  const DescriptionFiches& description = liste().description;
   return std::to_string(NombreFiches(module(), description.fichiers)) + std::string(CRLF) +
          std::string(description.annonce);
 }

@@ -6,8 +6,8 @@
 
 namespace gastrelle {
 
-frmFichesAjouter::frmFichesAjouter(const PlaceOnglet& place, frmFichesListe& liste)
-    : frmFichesSaisie(place, liste, &DescriptionFiches::ajouter) {
+frmFichesAjouter::frmFichesAjouter(const PlaceOnglet& place, frmFichesListe& laListe)
+    : frmFichesSaisie(place, laListe, &DescriptionFiches::ajouter) {
   boutons().Valide("cmdValideAjouter", u"Valider les saisies",
                    [this] { Opere(module(), [this] { Valide(); }); });
   boutons().Efface("cmdEffacerAjouter", [this] { Efface(); });
@@ -15,26 +15,26 @@ frmFichesAjouter::frmFichesAjouter(const PlaceOnglet& place, frmFichesListe& lis
 }
 
 void frmFichesAjouter::Entre() {
-  Vide();
-  DonneFocus(&titre());
+  VideBoites({{titre, texte}});
+  DonneFocus(titre);
 }
 
 void frmFichesAjouter::Valide() {
-  const std::string nouveau = TitreRogne();
-  if (nouveau.empty()) {
-    hote().Refuse(description().sansTitreAjouter, &titre());
+  titre->RogneTexte();
+  if (EstVide(*titre)) {
+    hote().Refuse(description.sansTitreAjouter, titre);
     return;
   }
-  const std::int32_t numero = AjouteFiche(module(), description().fichiers, nouveau, TexteRogne());
-  liste().combo->Ajoute({nouveau, numero});
+  texte->RogneTexte();
+  const std::string nouveau = titre->Texte();
+  const std::int32_t numero = AjouteFiche(module(), description.fichiers, nouveau, texte->Texte());
+  liste.combo->Ajoute({nouveau, numero});
   hote().MontreEnregistrement(numero);
 }
 
 void frmFichesAjouter::Efface() {
-  if (hote().ConfirmeEffacement({&titre(), &texte()})) {
-    Vide();
-  }
-  DonneFocus(&titre());
+  hote().EffaceSaisies({titre, texte});
+  DonneFocus(titre);
 }
 
 }  // namespace gastrelle

@@ -7,7 +7,7 @@ namespace gastrelle {
 
 class frmFichesAjouter final : public frmFichesSaisie {
  public:
-  frmFichesAjouter(const PlaceOnglet& place, frmFichesListe& liste);
+  frmFichesAjouter(const PlaceOnglet& place, frmFichesListe& laListe);
 
   /// The entry rule of the tab: both boxes are emptied.
   void Entre() override;

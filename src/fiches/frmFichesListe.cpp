@@ -6,11 +6,11 @@
 
 namespace gastrelle {
 
-frmFichesListe::frmFichesListe(const PlaceOnglet& place, const DescriptionFiches& description)
+frmFichesListe::frmFichesListe(const PlaceOnglet& place, const DescriptionFiches& fiches)
     : PageOnglet(place),
+      description(fiches),
       combo(new ComboListe(QLatin1String(description.liste.titre), Ordre::alphabetique, this)),
-      texte(new ZoneTexte(QLatin1String(description.liste.texte), limiteTexte, this)),
-      description_(description) {
+      texte(new ZoneTexte(QLatin1String(description.liste.texte), limiteTexte, this)) {
   const DescriptionSaisie& controles = description.liste;
   texte->RendLectureSeule();
   combo->setToolTip(QString::fromUtf16(controles.infobulleTitre));
@@ -21,19 +21,19 @@ frmFichesListe::frmFichesListe(const PlaceOnglet& place, const DescriptionFiches
 }
 
 void frmFichesListe::Charge() {
-  Garde(module(), [&] { ExigeFiches(module(), description_.fichiers); });
+  Garde(module(), [&] { ExigeFiches(module(), description.fichiers); });
   Recharge();
   combo->Choisit(0);
 }
 
 void frmFichesListe::Recharge() {
   combo->Vide();
-  Opere(module(), [&] { combo->Ajoute(ListeFiches(module(), description_.fichiers)); });
+  Opere(module(), [&] { combo->Ajoute(ListeFiches(module(), description.fichiers)); });
 }
 
 void frmFichesListe::Affiche() {
   Opere(module(),
-        [&] { texte->PoseTexte(LitFiche(module(), description_.fichiers, combo->Donnee())); });
+        [&] { texte->PoseTexte(LitFiche(module(), description.fichiers, combo->Donnee())); });
   DonneFocus(texte);
 }
 
@@ -41,12 +41,8 @@ void frmFichesListe::Entre() {
   DonneFocus(texte);
 }
 
-std::string frmFichesListe::Titre() const {
-  return std::string(Rogne(combo->Texte()));
-}
-
 Vue frmFichesListe::VueCourante() const {
-  return description_.vue(combo->Texte(), texte->Texte());
+  return description.vue(combo->Texte(), texte->Texte());
 }
 
 }  // namespace gastrelle

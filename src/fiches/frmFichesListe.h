@@ -11,14 +11,11 @@ namespace gastrelle {
 
 class frmFichesListe final : public PageOnglet {
  public:
-  frmFichesListe(const PlaceOnglet& place, const DescriptionFiches& description);
+  frmFichesListe(const PlaceOnglet& place, const DescriptionFiches& fiches);
 
+  const DescriptionFiches& description;
   ComboListe* combo;
   ZoneTexte* texte;
-
-  [[nodiscard]] const DescriptionFiches& description() const { return description_; }
-  /// Title of the record on display, trimmed; empty without one.
-  [[nodiscard]] std::string Titre() const;
 
   /// Fills the list and shows its first entry.
   void Charge();
@@ -30,8 +27,6 @@ class frmFichesListe final : public PageOnglet {
 
  private:
   void Affiche();
-
-  const DescriptionFiches& description_;
 };
 
 }  // namespace gastrelle

@@ -6,8 +6,8 @@
 
 namespace gastrelle {
 
-frmFichesModifier::frmFichesModifier(const PlaceOnglet& place, frmFichesListe& liste)
-    : frmFichesSaisie(place, liste, &DescriptionFiches::modifier) {
+frmFichesModifier::frmFichesModifier(const PlaceOnglet& place, frmFichesListe& laListe)
+    : frmFichesSaisie(place, laListe, &DescriptionFiches::modifier) {
   boutons().Valide("cmdValideModifier", u"Valider les saisies", [this] { Valide(); });
   boutons().Reinitialise("cmdEffacerModifier", [this] { Reprend(); });
   boutons().Aide("cmdAideModifier");
@@ -15,21 +15,22 @@ frmFichesModifier::frmFichesModifier(const PlaceOnglet& place, frmFichesListe& l
 
 void frmFichesModifier::Entre() {
   Reprend();
-  DonneFocus(&titre());
+  DonneFocus(titre);
 }
 
 void frmFichesModifier::Valide() {
-  const std::string nouveau = TitreRogne();
-  if (nouveau.empty()) {
-    hote().Refuse(description().sansTitreModifier, nullptr);
-    titre().PoseTexte(liste().Titre());
-    DonneFocus(&titre());
+  titre->RogneTexte();
+  if (EstVide(*titre)) {
+    hote().Refuse(description.sansTitreModifier, nullptr);
+    titre->PoseTexte(liste.combo->Texte());
+    DonneFocus(titre);
     return;
   }
   Opere(module(), [&] {
-    const std::int32_t numero = liste().combo->Donnee();
-    ChangeFiche(module(), description().fichiers, numero, nouveau, TexteRogne());
-    liste().Recharge();
+    texte->RogneTexte();
+    const std::int32_t numero = liste.combo->Donnee();
+    ChangeFiche(module(), description.fichiers, numero, titre->Texte(), texte->Texte());
+    liste.Recharge();
     hote().MontreEnregistrement(numero);
   });
 }

@@ -7,7 +7,7 @@ namespace gastrelle {
 
 class frmFichesModifier final : public frmFichesSaisie {
  public:
-  frmFichesModifier(const PlaceOnglet& place, frmFichesListe& liste);
+  frmFichesModifier(const PlaceOnglet& place, frmFichesListe& laListe);
 
   /// The entry rule of the tab: the boxes take the record on display.
   void Entre() override;

@@ -5,41 +5,23 @@
 
 namespace gastrelle {
 
-frmFichesSaisie::frmFichesSaisie(const PlaceOnglet& place, frmFichesListe& liste,
+frmFichesSaisie::frmFichesSaisie(const PlaceOnglet& place, frmFichesListe& laListe,
                                  DescriptionSaisie DescriptionFiches::*controles)
     : PageOnglet(place),
-      liste_(liste),
-      titre_(new LigneTexte(QLatin1String((description().*controles).titre), limiteNom, this)),
-      texte_(new ZoneTexte(QLatin1String((description().*controles).texte), limiteTexte, this)) {
-  const DescriptionSaisie& siens = description().*controles;
-  titre_->setToolTip(QString::fromUtf16(siens.infobulleTitre));
-  texte_->setToolTip(QString::fromUtf16(siens.infobulleTexte));
-  Etage(QString::fromUtf16(siens.legendeTitre), titre_);
-  contenu().setRowStretch(Etage(QString::fromUtf16(siens.legendeTexte), texte_), 1);
-}
-
-const DescriptionFiches& frmFichesSaisie::description() const {
-  return liste_.description();
+      liste(laListe),
+      description(laListe.description),
+      titre(new LigneTexte(QLatin1String((description.*controles).titre), limiteNom, this)),
+      texte(new ZoneTexte(QLatin1String((description.*controles).texte), limiteTexte, this)) {
+  const DescriptionSaisie& siens = description.*controles;
+  titre->setToolTip(QString::fromUtf16(siens.infobulleTitre));
+  texte->setToolTip(QString::fromUtf16(siens.infobulleTexte));
+  Etage(QString::fromUtf16(siens.legendeTitre), titre);
+  contenu().setRowStretch(Etage(QString::fromUtf16(siens.legendeTexte), texte), 1);
 }
 
 void frmFichesSaisie::Reprend() {
-  titre_->PoseTexte(liste_.Titre());
-  texte_->PoseTexte(liste_.texte->Texte());
-}
-
-void frmFichesSaisie::Vide() {
-  titre_->PoseTexte({});
-  texte_->PoseTexte({});
-}
-
-std::string frmFichesSaisie::TitreRogne() {
-  titre_->RogneTexte();
-  return titre_->Texte();
-}
-
-std::string frmFichesSaisie::TexteRogne() {
-  texte_->RogneTexte();
-  return texte_->Texte();
+  titre->PoseTexte(liste.combo->Texte());
+  texte->PoseTexte(liste.texte->Texte());
 }
 
 }  // namespace gastrelle

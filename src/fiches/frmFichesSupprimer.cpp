@@ -6,30 +6,29 @@
 
 namespace gastrelle {
 
-frmFichesSupprimer::frmFichesSupprimer(const PlaceOnglet& place, frmFichesListe& liste)
-    : frmFichesSaisie(place, liste, &DescriptionFiches::supprimer),
-      cmdSupprimer_(boutons().Supprime("cmdSupprimer", description().infobulleSupprimer,
+frmFichesSupprimer::frmFichesSupprimer(const PlaceOnglet& place, frmFichesListe& laListe)
+    : frmFichesSaisie(place, laListe, &DescriptionFiches::supprimer),
+      cmdSupprimer_(boutons().Supprime("cmdSupprimer", description.infobulleSupprimer,
                                        [this] { Supprime(); })),
       cmdAideSupprimer_(boutons().Aide("cmdAideSupprimer")) {
-  titre().RendLectureSeule();
-  texte().RendLectureSeule();
+  titre->RendLectureSeule();
+  texte->RendLectureSeule();
 }
 
 void frmFichesSupprimer::Entre() {
   Reprend();
-  const ComboListe& combo = *liste().combo;
+  const ComboListe& combo = *liste.combo;
   const bool permise =
-      combo.currentIndex() >= 0 && !EstProtegee(description().fichiers, combo.Donnee());
-  const QString infobulle =
-      permise ? QString() : QString::fromUtf16(description().infobulleProtegee);
-  titre().setToolTip(infobulle);
-  texte().setToolTip(infobulle);
+      combo.currentIndex() >= 0 && !EstProtegee(description.fichiers, combo.Donnee());
+  const QString infobulle = permise ? QString() : QString::fromUtf16(description.infobulleProtegee);
+  titre->setToolTip(infobulle);
+  texte->setToolTip(infobulle);
   PermetSuppression(permise);
   DonneFocus(permise ? cmdSupprimer_ : cmdAideSupprimer_);
 }
 
 void frmFichesSupprimer::PermetSuppression(bool permise) {
-  switch (description().boutonProtege) {
+  switch (description.boutonProtege) {
     case BoutonProtege::inactif:
       return cmdSupprimer_->setEnabled(permise);
     case BoutonProtege::cache:
@@ -38,14 +37,14 @@ void frmFichesSupprimer::PermetSuppression(bool permise) {
 }
 
 void frmFichesSupprimer::Supprime() {
-  if (module().services.messages.Demande(description().questionSupprimer) != Reponse::oui) {
+  if (module().services.messages.Demande(description.questionSupprimer) != Reponse::oui) {
     return;
   }
   Opere(module(), [&] {
-    SupprimeFiche(module(), description().fichiers, liste().combo->Donnee());
-    liste().Recharge();
+    SupprimeFiche(module(), description.fichiers, liste.combo->Donnee());
+    liste.Recharge();
     hote().ChoisitOnglet(ongletListe);
-    liste().combo->Choisit(0);
+    liste.combo->Choisit(0);
   });
 }
 

@@ -8,7 +8,7 @@ namespace gastrelle {
 
 class frmFichesSupprimer final : public frmFichesSaisie {
  public:
-  frmFichesSupprimer(const PlaceOnglet& place, frmFichesListe& liste);
+  frmFichesSupprimer(const PlaceOnglet& place, frmFichesListe& laListe);
 
   /// The entry rule of the tab: what would be deleted, and whether it may be.
   void Entre() override;

@@ -59,15 +59,16 @@ Liste FromagesAuLait(Module1& module, std::int16_t lait) {
                       [lait](const RecFromage& fromage) { return fromage.lait == lait; });
 }
 
-FromageLu LitFromage(Module1& module, std::int32_t numero) {
+VueFromage LitFromage(Module1& module, std::int32_t numero) {
   ExigeFromages(module);
   module.bufFromage.LireCourant(numero);
   const RecFromage& fromage = module.bufFromage.courant();
-  FromageLu lu;
+  VueFromage lu;
   if (fromage.posTexte > 0) {
     ExigeFichier(module, Donnees::GLF2);
     lu.notes = module.textesFromages.Lire(fromage.posTexte, fromage.lgTexte);
   }
+  lu.nom = Rogne(fromage.nomFromage.brut());
   lu.region = Rogne(fromage.regionFromage.brut());
   lu.lait = NomDuCode(laitNoms, fromage.lait);
   lu.premierMois = NomDuCode(moisNoms, fromage.premierMois);

@@ -13,6 +13,7 @@
 #include "data/Collation.h"
 #include "data/Module1.h"
 #include "data/Texte1252.h"
+#include "data/Vues.h"
 
 namespace gastrelle {
 
@@ -40,18 +41,9 @@ Liste ListeFromages(Module1& module);
 /// stays on the cheese on display.
 Liste FromagesAuLait(Module1& module, std::int16_t lait);
 
-/// What a cheese shows.
-struct FromageLu {
-  std::string region;
-  std::string_view lait;
-  std::string_view premierMois;
-  std::string_view dernierMois;
-  std::string notes;
-};
-
 /// Reads a cheese into the working record, then its notes. The files must still be there (the user
 /// is told when one isn't); a code outside its table is a failure.
-FromageLu LitFromage(Module1& module, std::int32_t numero);
+VueFromage LitFromage(Module1& module, std::int32_t numero);
 
 /// What the user entered for a cheese; all texts are trimmed.
 struct FromageSaisi {

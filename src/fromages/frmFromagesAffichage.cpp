@@ -2,8 +2,7 @@
 
 namespace gastrelle {
 
-frmFromagesAffichage::frmFromagesAffichage(const PlaceOnglet& place, const QString& suffixe,
-                                           QWidget* nom)
+frmFromagesAffichage::frmFromagesAffichage(const PlaceOnglet& place, const QString& suffixe)
     : frmFromagesPage(place),
       txtRegion(new LigneTexte(QStringLiteral("txtRegion") + suffixe, sansLimite, this)),
       txtLait(new LigneTexte(QStringLiteral("txtLait") + suffixe, sansLimite, this)),
@@ -14,23 +13,18 @@ frmFromagesAffichage::frmFromagesAffichage(const PlaceOnglet& place, const QStri
     boite->RendLectureSeule();
   }
   txtNotes->RendLectureSeule();
+}
+
+void frmFromagesAffichage::DisposeSous(QWidget* nom) {
   Dispose({nom, txtRegion, txtLait, txtPremierMois, txtDernierMois, txtNotes});
 }
 
-void frmFromagesAffichage::Montre(const FromageLu& fromage) {
+void frmFromagesAffichage::Montre(const VueFromage& fromage) {
   txtRegion->PoseTexte(fromage.region);
   txtLait->PoseTexte(fromage.lait);
   txtPremierMois->PoseTexte(fromage.premierMois);
   txtDernierMois->PoseTexte(fromage.dernierMois);
   txtNotes->PoseTexte(fromage.notes);
-}
-
-void frmFromagesAffichage::Reprend(const frmFromagesAffichage& page) {
-  txtRegion->PoseTexte(page.txtRegion->Texte());
-  txtLait->PoseTexte(page.txtLait->Texte());
-  txtPremierMois->PoseTexte(page.txtPremierMois->Texte());
-  txtDernierMois->PoseTexte(page.txtDernierMois->Texte());
-  txtNotes->PoseTexte(page.txtNotes->Texte());
 }
 
 }  // namespace gastrelle

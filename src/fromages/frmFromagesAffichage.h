@@ -16,12 +16,13 @@ class frmFromagesAffichage : public frmFromagesPage {
   ZoneTexte* txtNotes;
 
  protected:
-  /// `suffixe` ends the names of the boxes; `nom` is the control that tells the cheese.
-  frmFromagesAffichage(const PlaceOnglet& place, const QString& suffixe, QWidget* nom);
+  /// `suffixe` ends the names of the boxes.
+  frmFromagesAffichage(const PlaceOnglet& place, const QString& suffixe);
 
-  void Montre(const FromageLu& fromage);
-  /// Takes the texts of another page.
-  void Reprend(const frmFromagesAffichage& page);
+  /// Lays the boxes out behind `nom`, the control that tells the cheese.
+  void DisposeSous(QWidget* nom);
+  /// Shows all but the name.
+  void Montre(const VueFromage& fromage);
 };
 
 }  // namespace gastrelle

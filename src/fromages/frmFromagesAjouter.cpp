@@ -38,7 +38,7 @@ void frmFromagesAjouter::Valide() {
 }
 
 void frmFromagesAjouter::Efface() {
-  if (hote().ConfirmeEffacement({txtFromage, txtRegion, txtNotes})) {
+  if (hote().EffaceSaisies({txtFromage, txtRegion, txtNotes})) {
     Entre();
   } else {
     DonneFocus(txtFromage);

@@ -6,11 +6,9 @@
 namespace gastrelle {
 
 frmFromagesListe::frmFromagesListe(const PlaceOnglet& place)
-    : frmFromagesListe(place,
-                       new ComboListe(QStringLiteral("ComboFromages"), Ordre::alphabetique)) {}
-
-frmFromagesListe::frmFromagesListe(const PlaceOnglet& place, ComboListe* fromages)
-    : frmFromagesAffichage(place, {}, fromages), ComboFromages(fromages) {
+    : frmFromagesAffichage(place, {}),
+      ComboFromages(new ComboListe(QStringLiteral("ComboFromages"), Ordre::alphabetique, this)) {
+  DisposeSous(ComboFromages);
   boutons().Aide("cmdAideListe");
   ComboFromages->surChoix = [this] { AfficheFromage(); };
 }
@@ -29,25 +27,15 @@ void frmFromagesListe::Recharge() {
 }
 
 void frmFromagesListe::AfficheFromage() {
-  Opere(module(), [&] { Montre(LitFromage(module(), ComboFromages->Donnee())); });
+  Opere(module(), [&] {
+    fromage = LitFromage(module(), ComboFromages->Donnee());
+    Montre(fromage);
+  });
   Entre();
 }
 
 void frmFromagesListe::Entre() {
   DonneFocus(EstVide(*txtRegion) ? txtLait : txtRegion);
-}
-
-std::string frmFromagesListe::Nom() const {
-  return std::string(Rogne(ComboFromages->Texte()));
-}
-
-Vue frmFromagesListe::VueCourante() const {
-  return VueFromage{Nom(),
-                    txtRegion->Texte(),
-                    txtLait->Texte(),
-                    txtPremierMois->Texte(),
-                    txtDernierMois->Texte(),
-                    txtNotes->Texte()};
 }
 
 }  // namespace gastrelle

@@ -13,19 +13,17 @@ class frmFromagesListe final : public frmFromagesAffichage {
   explicit frmFromagesListe(const PlaceOnglet& place);
 
   ComboListe* ComboFromages;
+  VueFromage fromage;  ///< on display
 
   /// Fills the list of cheeses and shows the first one.
   void Charge();
   /// Empties the list of cheeses and fills it again. Throws on a failure.
   void Recharge();
-  /// Name of the selected cheese, trimmed; empty without one.
-  [[nodiscard]] std::string Nom() const;
-  [[nodiscard]] Vue VueCourante() const override;
+  [[nodiscard]] Vue VueCourante() const override { return fromage; }
   /// The entry rule of the tab: the focus to the first box that holds something.
   void Entre() override;
 
  private:
-  frmFromagesListe(const PlaceOnglet& place, ComboListe* fromages);
   void AfficheFromage();
 };
 

@@ -14,11 +14,11 @@ frmFromagesModifier::frmFromagesModifier(const PlaceOnglet& place, frmFromagesLi
 }
 
 void frmFromagesModifier::Entre() {
-  const RecFromage& fromage = module().bufFromage.courant();
-  txtFromage->PoseTexte(liste_.Nom());
-  txtRegion->PoseTexte(liste_.txtRegion->Texte());
-  MontreCodes(fromage.lait, fromage.premierMois, fromage.dernierMois);
-  txtNotes->PoseTexte(liste_.txtNotes->Texte());
+  const RecFromage& courant = module().bufFromage.courant();
+  txtFromage->PoseTexte(liste_.fromage.nom);
+  txtRegion->PoseTexte(liste_.fromage.region);
+  MontreCodes(courant.lait, courant.premierMois, courant.dernierMois);
+  txtNotes->PoseTexte(liste_.fromage.notes);
   DonneFocus(txtFromage);
 }
 
@@ -27,7 +27,7 @@ void frmFromagesModifier::Valide() {
   const std::string nom = txtFromage->Texte();
   if (nom.empty()) {
     hote().Refuse("Il faut donner un nom au fromage."_1252, nullptr);
-    txtFromage->PoseTexte(liste_.Nom());
+    txtFromage->PoseTexte(liste_.ComboFromages->Texte());
     DonneFocus(txtFromage);
     return;
   }
@@ -45,7 +45,8 @@ void frmFromagesModifier::Valide() {
 
 bool frmFromagesModifier::NomDejaDonne(const std::string& nom) {
   // A name that differs in case only is stored, even if another cheese bears it too.
-  return Majuscules(nom) != Majuscules(liste_.Nom()) && liste_.ComboFromages->ContientTexte(nom);
+  return Majuscules(nom) != Majuscules(liste_.ComboFromages->Texte()) &&
+         liste_.ComboFromages->ContientTexte(nom);
 }
 
 }  // namespace gastrelle

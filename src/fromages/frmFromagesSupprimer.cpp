@@ -7,23 +7,19 @@
 namespace gastrelle {
 
 frmFromagesSupprimer::frmFromagesSupprimer(const PlaceOnglet& place, frmFromagesListe& liste)
-    : frmFromagesSupprimer(place, liste,
-                           new LigneTexte(QStringLiteral("txtFromageSupprimer"), sansLimite)) {}
-
-frmFromagesSupprimer::frmFromagesSupprimer(const PlaceOnglet& place, frmFromagesListe& liste,
-                                           LigneTexte* fromage)
-    : frmFromagesAffichage(place, QStringLiteral("Supprimer"), fromage),
+    : frmFromagesAffichage(place, QStringLiteral("Supprimer")),
       liste_(liste),
-      txtFromage_(fromage),
+      txtFromage_(new LigneTexte(QStringLiteral("txtFromageSupprimer"), sansLimite, this)),
       cmdSupprimer_(boutons().Supprime("cmdSupprimer", u"Supprimer le fromage affiché",
                                        [this] { Supprime(); })),
       cmdAideSupprimer_(boutons().Aide("cmdAideSupprimer")) {
   txtFromage_->RendLectureSeule();
+  DisposeSous(txtFromage_);
 }
 
 void frmFromagesSupprimer::Entre() {
-  txtFromage_->PoseTexte(liste_.Nom());
-  Reprend(liste_);
+  txtFromage_->PoseTexte(liste_.fromage.nom);
+  Montre(liste_.fromage);
   const ComboListe& fromages = *liste_.ComboFromages;
   Protege(fromages.currentIndex() < 0 || fromages.Donnee() <= dernierFromageProtege);
 }

@@ -16,7 +16,6 @@ class frmFromagesSupprimer final : public frmFromagesAffichage {
   void Entre() override;
 
  private:
-  frmFromagesSupprimer(const PlaceOnglet& place, frmFromagesListe& liste, LigneTexte* fromage);
   void Protege(bool protege);
   void Supprime();
 

@@ -26,14 +26,7 @@ class Clavier {
 /// The X server on Linux, the system on Windows.
 class ClavierSysteme final : public Clavier {
  public:
-  /// `ecranX11`: the connection (`Display*`) that the windows already have; null without an X
-  /// server, where nothing is told.
-  explicit ClavierSysteme(void* ecranX11 = nullptr) : ecran_(ecranX11) {}
-
   [[nodiscard]] std::optional<Verrous> Lit() override;
-
- private:
-  void* ecran_;
 };
 
 }  // namespace gastrelle

@@ -6,9 +6,9 @@
 namespace gastrelle {
 
 std::optional<Verrous> ClavierSysteme::Lit() {
+  static Display* const ecran = XOpenDisplay(nullptr);  // null without an X server
   unsigned temoins = 0;
-  if (ecran_ == nullptr ||
-      XkbGetIndicatorState(static_cast<Display*>(ecran_), XkbUseCoreKbd, &temoins) != Success) {
+  if (ecran == nullptr || XkbGetIndicatorState(ecran, XkbUseCoreKbd, &temoins) != Success) {
     return std::nullopt;
   }
   return Verrous{(temoins & 1U) != 0, (temoins & 2U) != 0};

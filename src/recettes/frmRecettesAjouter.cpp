@@ -10,21 +10,21 @@
 namespace gastrelle {
 namespace {
 
-constexpr DescriptionSaisieRecette noms{.options = "Option1",
-                                        .optionFamille = u"&Une famille de recettes",
-                                        .optionRecette = u"Une &recette",
-                                        .famille = "txtSaisieFamille",
-                                        .legendeFamille = u"La nouvelle famille",
-                                        .familles = "ComboFamillesAjouter",
-                                        .titre = "txtSaisieNomRecette",
-                                        .texte = "txtSaisieRecetteAjouter",
-                                        .image = "txtImageAjouter",
-                                        .cherche = "cmdImageAjouter"};
+constexpr DescriptionSaisieRecette noms{"Option1",
+                                        u"&Une famille de recettes",
+                                        u"Une &recette",
+                                        "txtSaisieFamille",
+                                        u"La nouvelle famille",
+                                        "ComboFamillesAjouter",
+                                        "txtSaisieNomRecette",
+                                        "txtSaisieRecetteAjouter",
+                                        "txtImageAjouter",
+                                        "cmdImageAjouter"};
 
 }  // namespace
 
-frmRecettesAjouter::frmRecettesAjouter(const PlaceOnglet& place, frmRecettesListe& liste)
-    : frmRecettesSaisie(place, liste, noms),
+frmRecettesAjouter::frmRecettesAjouter(const PlaceOnglet& place, frmRecettesListe& laListe)
+    : frmRecettesSaisie(place, laListe, noms),
       modes_(options,
              {.controles = {famille},
               .focus = famille,
@@ -51,9 +51,7 @@ void frmRecettesAjouter::PoseBoutons() {
 }
 
 void frmRecettesAjouter::Entre() {
-  for (QWidget* boite : std::initializer_list<QWidget*>{famille, titre, texte}) {
-    VideBoite(*boite);
-  }
+  VideBoites({{famille, titre, texte}});
   ReprendIndiceFamille();
   modes_.RendFocus();
 }
@@ -78,8 +76,8 @@ void frmRecettesAjouter::ValideFamille() {
     return;
   }
   const std::int32_t numero = AjouteFamille(module(), nom);
-  liste().RechargeFamilles();
-  ComboListe& affichees = *liste().ComboFamilles;
+  liste.RechargeFamilles();
+  ComboListe& affichees = *liste.ComboFamilles;
   const int indice = affichees.IndiceDe(numero);
   famille->PoseTexte({});
   hote().ChoisitOnglet(ongletListe);
@@ -106,20 +104,14 @@ void frmRecettesAjouter::ValideRecette() {
 void frmRecettesAjouter::EnregistreRecette() {
   const std::int32_t numero = AjouteRecette(module(), Saisie());
   const int indice = familles->currentIndex();
-  for (QWidget* boite : std::initializer_list<QWidget*>{titre, texte, image}) {
-    VideBoite(*boite);
-  }
+  VideBoites({{titre, texte, image}});
   hote().ChoisitOnglet(ongletListe);
-  liste().ComboFamilles->Choisit(indice);
-  liste().ComboRecettes->ChoisitDonnee(numero);
+  liste.ComboFamilles->Choisit(indice);
+  liste.ComboRecettes->ChoisitDonnee(numero);
 }
 
 void frmRecettesAjouter::Efface() {
-  const std::initializer_list<QWidget*> boites{famille, titre, texte, image};
-  if (hote().ConfirmeEffacement({famille, titre, texte, image})) {
-    for (QWidget* boite : boites) {
-      VideBoite(*boite);
-    }
+  if (hote().EffaceSaisies({famille, titre, texte, image})) {
     ReprendIndiceFamille();
   }
   modes_.RendFocus();

@@ -8,7 +8,7 @@ namespace gastrelle {
 
 class frmRecettesAjouter final : public frmRecettesSaisie {
  public:
-  frmRecettesAjouter(const PlaceOnglet& place, frmRecettesListe& liste);
+  frmRecettesAjouter(const PlaceOnglet& place, frmRecettesListe& laListe);
 
   /// The entry rule of the tab: the boxes are emptied, all but the picture's path.
   void Entre() override;

@@ -104,14 +104,6 @@ void frmRecettesListe::PoseImage(const std::string& chemin) {
   cmdCameraListe->setEnabled(!chemin.empty());
 }
 
-std::string frmRecettesListe::Famille() const {
-  return std::string(Rogne(ComboFamilles->Texte()));
-}
-
-std::string frmRecettesListe::Titre() const {
-  return std::string(Rogne(ComboRecettes->Texte()));
-}
-
 std::string frmRecettesListe::Image() const {
   return DepuisQt(lblLaRecette->property("Tag").toString());
 }

@@ -30,9 +30,6 @@ class frmRecettesListe final : public PageOnglet {
   /// doesn't hold one of them; throws on a failure.
   void ChoisitRecette(std::int32_t numero);
 
-  /// Name of the family, title of the recipe, trimmed; empty without one.
-  [[nodiscard]] std::string Famille() const;
-  [[nodiscard]] std::string Titre() const;
   /// Complete path of the picture of the recipe on display, Windows-1252; empty without one.
   [[nodiscard]] std::string Image() const;
   [[nodiscard]] Vue VueCourante() const override;

@@ -8,21 +8,21 @@
 namespace gastrelle {
 namespace {
 
-constexpr DescriptionSaisieRecette noms{.options = "Option2",
-                                        .optionFamille = u"Le nom de &la famille",
-                                        .optionRecette = u"La &recette",
-                                        .famille = "txtSaisieFamilleModifier",
-                                        .legendeFamille = u"Le nom de la famille",
-                                        .familles = "ComboFamillesModifier",
-                                        .titre = "txtSaisieNomRecetteModifier",
-                                        .texte = "txtSaisieRecetteModifier",
-                                        .image = "txtImageModifier",
-                                        .cherche = "cmdImageModifier"};
+constexpr DescriptionSaisieRecette noms{"Option2",
+                                        u"Le nom de &la famille",
+                                        u"La &recette",
+                                        "txtSaisieFamilleModifier",
+                                        u"Le nom de la famille",
+                                        "ComboFamillesModifier",
+                                        "txtSaisieNomRecetteModifier",
+                                        "txtSaisieRecetteModifier",
+                                        "txtImageModifier",
+                                        "cmdImageModifier"};
 
 }  // namespace
 
-frmRecettesModifier::frmRecettesModifier(const PlaceOnglet& place, frmRecettesListe& liste)
-    : frmRecettesSaisie(place, liste, noms),
+frmRecettesModifier::frmRecettesModifier(const PlaceOnglet& place, frmRecettesListe& laListe)
+    : frmRecettesSaisie(place, laListe, noms),
       modes_(options,
              {.controles = {famille}, .focus = famille, .surChoix = [this] { ReprendRecette(); }},
              {.controles = PourRecette(), .focus = familles, .surChoix = [this] {
@@ -36,22 +36,22 @@ frmRecettesModifier::frmRecettesModifier(const PlaceOnglet& place, frmRecettesLi
 }
 
 void frmRecettesModifier::ReprendFamille() {
-  famille->PoseTexte(liste().Famille());
+  famille->PoseTexte(liste.ComboFamilles->Texte());
 }
 
 void frmRecettesModifier::ReprendRecette() {
   ReprendIndiceFamille();
-  titre->PoseTexte(liste().Titre());
-  texte->PoseTexte(liste().txtRecette->Texte());
+  titre->PoseTexte(liste.ComboRecettes->Texte());
+  texte->PoseTexte(liste.txtRecette->Texte());
   // In an empty family the tag is still that of the picture shown before.
-  const bool vide = liste().ComboRecettes->entrees().empty();
-  image->PoseTexte(vide ? std::string() : liste().Image());
+  const bool vide = liste.ComboRecettes->entrees().empty();
+  image->PoseTexte(vide ? std::string() : liste.Image());
 }
 
 void frmRecettesModifier::Entre() {
   ReprendFamille();
   ReprendRecette();
-  const bool vide = liste().ComboRecettes->entrees().empty();
+  const bool vide = liste.ComboRecettes->entrees().empty();
   modes_.Permet(1, !vide);
   modes_.Choisit(vide ? 0 : 1);
   modes_.RendFocus();
@@ -65,13 +65,13 @@ void frmRecettesModifier::Reinitialise() {
 
 void frmRecettesModifier::VaALaListe() {
   hote().ChoisitOnglet(ongletListe);
-  DonneFocus(liste().ComboFamilles);
+  DonneFocus(liste.ComboFamilles);
 }
 
 void frmRecettesModifier::ValideFamille() {
   famille->RogneTexte();
   const std::string nom = famille->Texte();
-  const ComboListe& affichees = *liste().ComboFamilles;
+  const ComboListe& affichees = *liste.ComboFamilles;
   const auto refuse = [&](auto refus, std::string_view message) {
     (hote().*refus)(message, nullptr);
     ReprendFamille();
@@ -96,12 +96,12 @@ void frmRecettesModifier::ValideFamille() {
 
 void frmRecettesModifier::EnregistreFamille(const std::string& nom) {
   ExigeFamilles(module());
-  const std::int32_t numero = liste().ComboFamilles->Donnee();
-  const std::int32_t recette = liste().ComboRecettes->Donnee();  // a failure in an empty family
+  const std::int32_t numero = liste.ComboFamilles->Donnee();
+  const std::int32_t recette = liste.ComboRecettes->Donnee();  // a failure in an empty family
   RenommeFamille(module(), numero, nom);
-  liste().RechargeFamilles();
-  liste().ComboFamilles->ChoisitDonnee(numero);
-  liste().ComboRecettes->ChoisitDonnee(recette);
+  liste.RechargeFamilles();
+  liste.ComboFamilles->ChoisitDonnee(numero);
+  liste.ComboRecettes->ChoisitDonnee(recette);
   VaALaListe();
 }
 
@@ -109,7 +109,7 @@ void frmRecettesModifier::ValideRecette() {
   titre->RogneTexte();
   if (EstVide(*titre)) {
     hote().Refuse("Il faut donner un titre à la recette."_1252, nullptr);
-    titre->PoseTexte(liste().Titre());
+    titre->PoseTexte(liste.ComboRecettes->Texte());
     DonneFocus(titre);
     return;
   }
@@ -119,7 +119,7 @@ void frmRecettesModifier::ValideRecette() {
   texte->RogneTexte();
   image->RogneTexte();
   if (!EstVide(*image) && ImageRefusee()) {
-    image->PoseTexte(liste().Image());
+    image->PoseTexte(liste.Image());
     DonneFocus(cherche);
     return;
   }
@@ -128,9 +128,10 @@ void frmRecettesModifier::ValideRecette() {
 
 bool frmRecettesModifier::TitreDejaDonne() {
   const std::string nouveau = titre->Texte();
-  const ComboListe& affichees = *liste().ComboFamilles;
+  const ComboListe& affichees = *liste.ComboFamilles;
   const bool memeFamille = familles->currentIndex() == affichees.currentIndex();
-  if (memeFamille && liste().ComboRecettes->AutreContientTexte(nouveau)) {
+  const ComboListe& recettes = *liste.ComboRecettes;
+  if (memeFamille && recettes.ContientTexte(nouveau, recettes.currentIndex())) {
     hote().Refuse("Cette recette existe déjà"_1252, titre);
     return true;
   }
@@ -154,10 +155,10 @@ bool frmRecettesModifier::ImageRefusee() {
 }
 
 void frmRecettesModifier::EnregistreRecette() {
-  const std::int32_t numero = liste().ComboRecettes->Donnee();
+  const std::int32_t numero = liste.ComboRecettes->Donnee();
   ChangeRecette(module(), numero, Saisie());
-  liste().ComboFamilles->Choisit(familles->currentIndex());
-  liste().ComboRecettes->ChoisitDonnee(numero);
+  liste.ComboFamilles->Choisit(familles->currentIndex());
+  liste.ComboRecettes->ChoisitDonnee(numero);
   VaALaListe();
 }
 

@@ -8,7 +8,7 @@ namespace gastrelle {
 
 class frmRecettesModifier final : public frmRecettesSaisie {
  public:
-  frmRecettesModifier(const PlaceOnglet& place, frmRecettesListe& liste);
+  frmRecettesModifier(const PlaceOnglet& place, frmRecettesListe& laListe);
 
   /// The entry rule of the tab: the boxes take the family and the recipe on display.
   void Entre() override;

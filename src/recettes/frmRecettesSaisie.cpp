@@ -8,9 +8,10 @@
 
 namespace gastrelle {
 
-frmRecettesSaisie::frmRecettesSaisie(const PlaceOnglet& place, frmRecettesListe& liste,
+frmRecettesSaisie::frmRecettesSaisie(const PlaceOnglet& place, frmRecettesListe& laListe,
                                      const DescriptionSaisieRecette& noms)
     : PageOnglet(place),
+      liste(laListe),
       options(Options(noms.options, noms.optionFamille, noms.optionRecette)),
       famille(new LigneTexte(QLatin1String(noms.famille), limiteNom, this)),
       familles(new ComboListe(QLatin1String(noms.familles), Ordre::alphabetique, this)),
@@ -18,8 +19,7 @@ frmRecettesSaisie::frmRecettesSaisie(const PlaceOnglet& place, frmRecettesListe&
       texte(new ZoneTexte(QLatin1String(noms.texte), limiteTexte, this)),
       image(new LigneTexte(QLatin1String(noms.image), sansLimite, this)),
       cherche(Bouton(QLatin1String(noms.cherche), QStringLiteral("I&mage..."),
-                     QStringLiteral("dossier"), QStringLiteral("Rechercher une image"), this)),
-      liste_(liste) {
+                     QStringLiteral("dossier"), QStringLiteral("Rechercher une image"), this)) {
   liste.familles.Suit(*familles);
   Rang(QString::fromUtf16(noms.legendeFamille), famille);
   Rang(QStringLiteral("La famille de la recette"), familles);
@@ -41,7 +41,7 @@ std::vector<QWidget*> frmRecettesSaisie::PourRecette() const {
 }
 
 void frmRecettesSaisie::ReprendIndiceFamille() {
-  familles->Montre(liste_.ComboFamilles->currentIndex());
+  familles->Montre(liste.ComboFamilles->currentIndex());
 }
 
 RecetteSaisie frmRecettesSaisie::Saisie() const {

@@ -31,10 +31,9 @@ struct DescriptionSaisieRecette {
 
 class frmRecettesSaisie : public PageOnglet {
  protected:
-  frmRecettesSaisie(const PlaceOnglet& place, frmRecettesListe& liste,
+  frmRecettesSaisie(const PlaceOnglet& place, frmRecettesListe& laListe,
                     const DescriptionSaisieRecette& noms);
 
-  [[nodiscard]] frmRecettesListe& liste() const { return liste_; }
   /// The controls that a recipe has and a family hasn't.
   [[nodiscard]] std::vector<QWidget*> PourRecette() const;
   /// The list of families on this page shows the family of the window.
@@ -47,6 +46,7 @@ class frmRecettesSaisie : public PageOnglet {
   /// the viewer can't show is told and accepted.
   [[nodiscard]] bool AccepteImage();
 
+  frmRecettesListe& liste;
   std::array<QRadioButton*, 2> options;
   LigneTexte* famille;
   ComboListe* familles;
@@ -54,9 +54,6 @@ class frmRecettesSaisie : public PageOnglet {
   ZoneTexte* texte;
   LigneTexte* image;
   QPushButton* cherche;
-
- private:
-  frmRecettesListe& liste_;
 };
 
 }  // namespace gastrelle

@@ -49,7 +49,7 @@ frmRecettesSupprimer::frmRecettesSupprimer(const PlaceOnglet& place, frmRecettes
 void frmRecettesSupprimer::MontreFamille() {
   const ComboListe& familles = *liste_.ComboFamilles;
   const bool protegee = familles.currentIndex() < 0 || familles.Donnee() == numeroProtege;
-  lblFamilleSupprimer_->setText(VersQt(liste_.Famille()));
+  lblFamilleSupprimer_->setText(VersQt(liste_.ComboFamilles->Texte()));
   lblFamilleSupprimer_->setToolTip(
       protegee ? QStringLiteral("Cette famille de recettes ne peut être supprimée") : QString());
   modes_.Permet(famille, !protegee);
@@ -59,8 +59,8 @@ void frmRecettesSupprimer::MontreRecette() {
   const ComboListe& recettes = *liste_.ComboRecettes;
   const bool vide = !recettes.isEnabled() || recettes.currentIndex() < 0;
   const bool protegee = !vide && recettes.Donnee() == numeroProtege;
-  lblFamilleRecetteSupprimer_->setText(vide ? QString() : VersQt(liste_.Famille()));
-  lblTitreRecetteSupprimer_->setText(vide ? QString() : VersQt(liste_.Titre()));
+  lblFamilleRecetteSupprimer_->setText(vide ? QString() : VersQt(liste_.ComboFamilles->Texte()));
+  lblTitreRecetteSupprimer_->setText(vide ? QString() : VersQt(liste_.ComboRecettes->Texte()));
   txtTexteRecetteSupprimer_->PoseTexte(vide ? std::string{} : liste_.txtRecette->Texte());
   modes_.Permet(recette, !vide && !protegee);
   if (!vide) {

@@ -144,7 +144,7 @@ TEST_F(Combo, CompareSansCasseEtSansBlancs) {
   combo.Ajoute({{std::string("Épices"_1252), 1}, {"b", 2}});
   combo.Montre(1);
   EXPECT_TRUE(combo.ContientTexte(" ÉPICES"_1252));
-  EXPECT_FALSE(combo.AutreContientTexte("épices"_1252));
+  EXPECT_FALSE(combo.ContientTexte("épices"_1252, combo.currentIndex()));
   EXPECT_FALSE(combo.ContientTexte("epices"));
 }
 

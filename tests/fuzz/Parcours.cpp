@@ -124,7 +124,7 @@ class Vie {
       VerifieListe(lus.liste, module_.bufFromage);
     });
     LitTout(lus, [&](std::int32_t numero) {
-      FromageLu lu = LitFromage(module_, numero);
+      VueFromage lu = LitFromage(module_, numero);
       Verifie(lu.region.size() <= std::size_t{limiteRegionFromage}, "une région trop longue");
       return std::move(lu.notes);
     });

@@ -148,7 +148,7 @@ TEST_F(LectureDesFromages, LaListeDUnLaitRepareAussiLeCompte) {
 TEST_F(LectureDesFromages, UnFromageSeLitAvecSesTextesEtSesNotes) {
   b.AjouteFromage(Fromage("Abondance", " Savoie ", 1, 11, 2), "Une note.");
   b.Demarre();
-  const FromageLu lu = LitFromage(*b.module, 124);
+  const VueFromage lu = LitFromage(*b.module, 124);
   EXPECT_EQ(lu.region, "Savoie");
   EXPECT_EQ(lu.lait, "Vache");
   EXPECT_EQ(lu.premierMois, "Novembre");
