@@ -1,54 +1,144 @@
-// What every window with tabs owes its user: pages made on demand that nobody notices.
-#include "doublures/FenetreEssai.h"
-#include "fiches/FichesEssai.h"
-#include "fiches/frmMenus.h"
-#include "fiches/frmTrucs.h"
-#include "fromages/frmFromages.h"
-#include "recettes/frmRecettes.h"
+// The base of the windows with tabs, where the windows of the program take its defaults: a window
+// that refuses in its own way and lands elsewhere, a tab shown unasked.
+
+#include <QTest>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "controles/PageOnglet.h"
+#include "doublures/Bibliotheque.h"
+#include "doublures/CadreEssai.h"
+#include "doublures/Ecran.h"
 
 namespace gastrelle::essai {
 namespace {
 
-template <class Fenetre>
-class Onglets : public FenetreEssai<Fenetre> {
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class PageEssai final : public PageOnglet {
+ public:
+  explicit PageEssai(const PlaceOnglet& place) : PageOnglet(place), numero_(place.numero) {}
+
+  void Entre() override { setProperty("entrees", property("entrees").toInt() + 1); }
+  [[nodiscard]] Vue VueCourante() const override { return VueMenu{std::to_string(numero_), {}}; }
+
+ private:
+  int numero_;
+};
+
+class frmEssai;
+
+constexpr DescriptionFenetre fenetreEssai{
+    .nom = "frmEssai", .titre = u"Essai", .vue = EntreeVue::millesimes, .logo = "logo-menus"};
+constexpr std::array<DescriptionOnglet, 3> onglets{{
+    {u"Un", u"Le premier", u"Entête un", u"Logo un", "un", CreePage<frmEssai, PageEssai>},
+    {u"Deux", u"Le deuxième", u"Entête deux", u"Logo deux", "deux", CreePage<frmEssai, PageEssai>},
+    {u"Trois", u"Le dernier", u"Entête trois", u"Logo trois", "trois",
+     CreePage<frmEssai, PageEssai>},
+}};
+constexpr std::array<ChangementRefuse, 1> refus{{{2, 3}}};
+constexpr JeuOnglets jeu{.onglets = onglets, .refus = refus, .ligneDuLogo = true};
+
+/// Refuses its second tab with a message and goes to the first one, if it is told to.
+class frmEssai final : public FenetreOnglets {
+ public:
+  frmEssai(Module1& module, gastrelle::Cadre& cadre)
+      : FenetreOnglets(module, cadre, fenetreEssai, jeu) {}
+
+  bool deuxInterdit = false;
+
  protected:
-  Onglets() {
-    this->b.GarnitFromages();
-    this->b.GarnitFiches(Donnees::GLM1);
-    this->b.GarnitFiches(Donnees::GLT1);
-  }
-  QStringList Pages() {
-    QStringList noms;
-    const auto& cadres = *this->fenetre->template findChild<QStackedWidget*>();
-    for (int i = 0; i < cadres.count(); ++i) {
-      noms << cadres.widget(i)->objectName();
+  std::string Annonce() override { return "7\r\nessais"; }
+  bool PermetOnglet(int vers) override {
+    if (vers == 2 && deuxInterdit) {
+      module().services.messages.Informe("Pas encore.", Icone::critique);
+      ChoisitOnglet(1);
+      return false;
     }
-    return noms;
+    return FenetreOnglets::PermetOnglet(vers);
   }
 };
 
-using Fenetres = testing::Types<frmRecettes, frmFromages, frmMenus, frmTrucs>;
-TYPED_TEST_SUITE(Onglets, Fenetres);
+class AvecOnglets : public testing::Test {
+ protected:
+  AvecOnglets() {
+    fenetre.show();
+    fenetre.Active();
+    cadre.contextes.clear();
+  }
+  int Affiche() {
+    EXPECT_EQ(Trouve<QTabBar>(fenetre, "TabStrip1").currentIndex() + 1, fenetre.ongletCourant());
+    const auto vue = std::get<VueMenu>(fenetre.VueCourante());
+    EXPECT_EQ(vue.titre, std::to_string(fenetre.ongletCourant()));
+    EXPECT_TRUE(Page(fenetre.ongletCourant()).isVisible());
+    return fenetre.ongletCourant();
+  }
+  QWidget& Page(int onglet) {
+    return Trouve(fenetre, ("Frame1(" + std::to_string(onglet) + ")").c_str());
+  }
 
-TYPED_TEST(Onglets, UnePageSeFaitQuandOnYEntreEtUneFois) {
-  this->Ouvre();
-  EXPECT_EQ(this->Pages(), QStringList{"Frame1(1)"});
-  CliqueOnglet(*this->fenetre, 2);
-  CliqueOnglet(*this->fenetre, 1);
-  CliqueOnglet(*this->fenetre, 2);
-  EXPECT_EQ(this->Pages(), (QStringList{"Frame1(1)", "Frame1(2)"}));
+  Bibliotheque b;
+  CadreEssai cadre{*b.module};
+  frmEssai fenetre{*b.module, cadre};
+};
+
+TEST_F(AvecOnglets, LaTablePermetOuRefuseParLeSon) {
+  CliqueOnglet(fenetre, 2);
+  EXPECT_EQ(Affiche(), 2);
+  CliqueOnglet(fenetre, 3);
+  EXPECT_EQ(Affiche(), 2);
+  EXPECT_THAT(b.son.joues, ElementsAre((b.dossier.chemin() / "Exclamation").string()));
+  EXPECT_THAT(cadre.contextes, ElementsAre(52));
 }
 
-TYPED_TEST(Onglets, AucunePageNAgranditLaFenetre) {
-  this->Ouvre();
-  const QSize moindre = this->fenetre->minimumSizeHint();
-  const QSize naturelle = this->fenetre->sizeHint();
-  const int dernier = this->template Le<QTabBar>("TabStrip1").count();
-  for (int onglet = 2; onglet <= dernier; ++onglet) {
-    CliqueOnglet(*this->fenetre, onglet);
-    EXPECT_EQ(this->fenetre->minimumSizeHint(), moindre) << onglet;
-    EXPECT_EQ(this->fenetre->sizeHint(), naturelle) << onglet;
+TEST_F(AvecOnglets, UneFenetreRefuseASaFaconEtVaAilleurs) {
+  CliqueOnglet(fenetre, 3);
+  fenetre.deuxInterdit = true;
+  CliqueOnglet(fenetre, 2);
+  EXPECT_EQ(Affiche(), 1);
+  EXPECT_EQ(b.messages.vus.size(), 1U);
+  EXPECT_THAT(b.son.joues, IsEmpty());
+  EXPECT_THAT(cadre.contextes, ElementsAre(53, 51));
+}
+
+TEST_F(AvecOnglets, UnRefusDepuisLOngletDArriveeNYRentrePasUneSecondeFois) {
+  fenetre.deuxInterdit = true;
+  CliqueOnglet(fenetre, 2);
+  EXPECT_EQ(Affiche(), 1);
+  EXPECT_THAT(cadre.contextes, IsEmpty());
+  EXPECT_EQ(Page(1).property("entrees").toInt(), 1);
+}
+
+TEST_F(AvecOnglets, LeProgrammeMontreUnOngletQuUnClicSeVerraitRefuser) {
+  CliqueOnglet(fenetre, 2);
+  fenetre.MontreOnglet(3);
+  EXPECT_EQ(Affiche(), 3);
+  fenetre.deuxInterdit = true;
+  fenetre.MontreOnglet(2);
+  EXPECT_EQ(Affiche(), 2);
+  EXPECT_THAT(b.messages.vus, IsEmpty());
+  EXPECT_THAT(b.son.joues, IsEmpty());
+  EXPECT_THAT(cadre.contextes, ElementsAre(52, 53, 52));
+}
+
+TEST_F(AvecOnglets, MontrerLOngletAfficheNeFaitRien) {
+  fenetre.MontreOnglet(1);
+  EXPECT_EQ(Affiche(), 1);
+  EXPECT_THAT(cadre.contextes, IsEmpty());
+}
+
+TEST_F(AvecOnglets, LAnnonceSeLitSurChaquePageFaite) {
+  CliqueOnglet(fenetre, 3);
+  for (const char* nom : {"txtAnnonce(0)", "txtAnnonce(2)"}) {
+    EXPECT_EQ(Texte(Trouve(fenetre, nom)), "7\nessais") << nom;
   }
+  EXPECT_EQ(fenetre.findChild<QWidget*>("txtAnnonce(1)"), nullptr);
+}
+
+TEST_F(AvecOnglets, LaLigneDuLogoSuitLeJeuDOnglets) {
+  EXPECT_EQ(Texte(Trouve(Page(1), "lblLigneLogo")), "Logo un");
+  EXPECT_EQ(Texte(Trouve(Page(1), "Label1")), Fr("Entête un"));
 }
 
 }  // namespace

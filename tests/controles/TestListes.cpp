@@ -7,6 +7,7 @@
 
 #include "controles/ComboListe.h"
 #include "controles/ListeChoix.h"
+#include "controles/ListePartagee.h"
 #include "data/Texte1252.h"
 #include "doublures/Ecran.h"
 #include "plateforme/ErreurExecution.h"
@@ -153,6 +154,51 @@ TEST_F(Combo, LeClavierChoisitAussi) {
   combo.Montre(0);
   QTest::keyClick(&combo, Qt::Key_Down);
   EXPECT_THAT(choix, ElementsAre(1));
+}
+
+class Partage : public testing::Test {
+ protected:
+  ListePartagee partagee;
+  ComboListe une{"ComboUne", Ordre::alphabetique};
+  ComboListe autre{"ComboAutre", Ordre::alphabetique};
+};
+
+TEST_F(Partage, MontreLesMemesEntreesDansChaqueListe) {
+  partagee.Suit(une);
+  partagee.Suit(autre);
+  partagee.Remplace({{"b", 2}, {"a", 3}});
+  EXPECT_THAT(Numeros(une.entrees()), ElementsAre(3, 2));
+  EXPECT_THAT(Numeros(autre.entrees()), ElementsAre(3, 2));
+}
+
+TEST_F(Partage, UneListeQuiVientPlusTardPrendLesEntreesDuMoment) {
+  partagee.Suit(une);
+  partagee.Remplace({{"a", 1}, {"b", 2}});
+  une.Vide();  // not the first list is the source
+  partagee.Suit(autre);
+  EXPECT_THAT(Numeros(autre.entrees()), ElementsAre(1, 2));
+}
+
+TEST_F(Partage, RienNEstChoisiApresUnRemplacementEtAucunEvenementNePart) {
+  int choix = 0;
+  une.surChoix = [&] { ++choix; };
+  partagee.Suit(une);
+  partagee.Remplace({{"a", 1}});
+  une.Montre(0);
+  partagee.Remplace({{"b", 2}, {"c", 3}});
+  EXPECT_EQ(une.currentIndex(), -1);
+  EXPECT_EQ(choix, 0);
+  EXPECT_THAT(Numeros(une.entrees()), ElementsAre(2, 3));
+}
+
+TEST_F(Partage, UneListeGardeSonEntreeEpingleeEnTete) {
+  partagee.Suit(une, "?");
+  partagee.Suit(autre);
+  for (const char* nom : {"1er cru", "Alsace"}) {
+    partagee.Remplace(Liste{{nom, 2}});
+    EXPECT_EQ(Textes(une), (QStringList{"?", nom}));
+    EXPECT_EQ(Textes(autre), QStringList{nom});
+  }
 }
 
 class Choix : public testing::Test {

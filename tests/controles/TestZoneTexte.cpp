@@ -10,6 +10,7 @@
 #include "controles/Conversion.h"
 #include "controles/ZoneTexte.h"
 #include "doublures/Ecran.h"
+#include "doublures/EcranVirtuel.h"
 #include "doublures/ServicesEssai.h"
 #include "shell/CommandesEdition.h"
 
@@ -74,6 +75,32 @@ TYPED_TEST(Boites, NAcceptentQueJusquALeurLimite) {
   this->Montre(5);
   Tape(*this->boite, "abcdefg");
   EXPECT_EQ(this->boite->Texte(), "abcde");
+}
+
+TYPED_TEST(Boites, LeurPropreMenuColleCommeLeClavier) {
+  for (const bool lectureSeule : {false, true}) {
+    this->Montre(5);
+    if (lectureSeule) {
+      this->boite->RendLectureSeule();
+    }
+    QApplication::clipboard()->setText(Fr("cre\u0300me"));
+    const QPoint ou(5, 5);
+    QContextMenuEvent clicDroit(QContextMenuEvent::Mouse, ou, this->boite->mapToGlobal(ou));
+    QWidget* cible = this->boite->template findChild<QWidget*>("qt_scrollarea_viewport");
+    QApplication::sendEvent(cible == nullptr ? this->boite.get() : cible, &clicDroit);
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    ASSERT_NE(menu, nullptr);
+    bool colle = false;
+    for (QAction* action : menu->actions()) {
+      if (action->text().endsWith("\tCtrl+V")) {
+        colle = action->isEnabled();
+        QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(action).center());
+      }
+    }
+    menu->close();
+    EXPECT_NE(colle, lectureSeule);
+    EXPECT_EQ(this->boite->Texte(), lectureSeule ? "" : "crème"_1252);
+  }
 }
 
 TYPED_TEST(Boites, CoupentUnCollageTropLong) {
@@ -165,6 +192,25 @@ TEST_F(Ligne, UnAccentDecomposeNeCompteQuAvecSaLettre) {
   Montre(5);
   QApplication::clipboard()->setText(creme);
   QTest::keyClick(boite.get(), Qt::Key_V, Qt::ControlModifier);
+  EXPECT_EQ(boite->Texte(), "crème"_1252);
+}
+
+TEST_F(Ligne, LeBoutonDuMilieuColleCommeLeClavier) {
+  QClipboard& pressePapiers = *QApplication::clipboard();
+  if (!pressePapiers.supportsSelection()) {
+    if (!EcranVirtuel::Possible()) {
+      GTEST_SKIP() << "il manque Xvfb";
+    }
+    EXPECT_EQ(RejoueSurEcranVirtuel("Ligne.LeBoutonDuMilieuColleCommeLeClavier"), 0);
+    return;
+  }
+  Montre(5);
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(boite.get()));
+  pressePapiers.setText(creme, QClipboard::Selection);
+  QTest::mouseClick(boite.get(), Qt::MiddleButton);
+  EXPECT_EQ(boite->Texte(), "crème"_1252);
+  boite->RendLectureSeule();
+  QTest::mouseClick(boite.get(), Qt::MiddleButton);
   EXPECT_EQ(boite->Texte(), "crème"_1252);
 }
 

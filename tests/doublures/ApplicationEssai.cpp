@@ -68,7 +68,7 @@ int main(int argc, char** argv) {
     std::filesystem::permissions(dossier, std::filesystem::perms::owner_all);
     qputenv(variable, dossier.c_str());
   }
-  qputenv("QT_QPA_PLATFORM", "offscreen");
+  qputenv("QT_QPA_PLATFORM", qEnvironmentVariable("PLATEFORME_DES_ESSAIS", "offscreen").toUtf8());
   qputenv("QT_LOGGING_RULES", "qt.qpa.*=false;default.debug=false");
   testing::InitGoogleTest(&argc, argv);
   const gastrelle::essai::ApplicationEssai application(argc, argv);

@@ -176,6 +176,21 @@ std::int32_t Bibliotheque::AjouteFiche(Donnees fiches, std::string_view titre,
   return AjouteCompte(dossier, NomPresent(fiches), fiche);
 }
 
+void Bibliotheque::Garnit() {
+  std::filesystem::create_directory(dossier.chemin() / "IMAGE");
+  dossier.Ecrit("IMAGE/a.png", "x");
+  AjouteRecette(AjouteFamille("Desserts"), "Avec image", "Un texte.", "/a.png");
+  GarnitFromages();
+  RecFromage fromage;
+  fromage.nomFromage = "Abondance";
+  fromage.regionFromage = "Savoie";
+  AjouteFromage(fromage, "Des notes.");
+  for (const Donnees fiches : {Donnees::GLM1, Donnees::GLT1}) {
+    GarnitFiches(fiches);
+    AjouteFiche(fiches, "Agape", "Un texte.");
+  }
+}
+
 std::unique_ptr<Module1> Bibliotheque::NouveauModule() {
   return std::make_unique<Module1>(
       Services{disque, messages, pointeur, horloge, association, son, processus},

@@ -73,6 +73,10 @@ class Bibliotheque {
   /// A menu or a tip behind the last one.
   std::int32_t AjouteFiche(Donnees fiches, std::string_view titre, std::string_view texte = {});
 
+  /// Fills every catalogue that has a window: the factory's records, and one of the user's that
+  /// stands first in its list. His recipe has a picture.
+  void Garnit();
+
   /// Runs the start; the files are then open in `module`. Fails the test if it doesn't get to the
   /// frame.
   void Demarre();

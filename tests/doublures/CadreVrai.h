@@ -45,9 +45,7 @@ class CadreVrai : public testing::Test {
 
   /// The same on a library where every window has its catalogue.
   void OuvreGarni(RecPreferences preferences = sansSauvegarde) {
-    b.GarnitFromages();
-    b.GarnitFiches(Donnees::GLM1);
-    b.GarnitFiches(Donnees::GLT1);
+    b.Garnit();
     Ouvre(preferences);
   }
 

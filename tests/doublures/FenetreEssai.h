@@ -18,6 +18,7 @@
 #include "doublures/Depart.h"
 #include "doublures/EcouteF1.h"
 #include "doublures/Ecran.h"
+#include "doublures/Pannes.h"
 
 namespace gastrelle::essai {
 
@@ -104,19 +105,6 @@ class FenetreEssai : public testing::Test {
       EXPECT_FALSE(b.pointeur.sablier) << VersUtf8(b.messages.vus.back().texte);
     };
   }
-  /// The help button of each tab, in the order of the tabs, sends the help key.
-  void AttendF1(std::initializer_list<const char*> boutons) {
-    fenetre->activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(fenetre.get()));
-    const EcouteF1 ecoute;
-    int parcouru = 0;
-    for (const char* bouton : boutons) {
-      CliqueOnglet(*fenetre, ++parcouru);
-      Clique(Le(bouton));
-      EXPECT_EQ(ecoute.appuis, parcouru) << bouton;
-    }
-  }
-
   /// The program ended because that file wasn't there any more, which was told first, and nothing
   /// was written.
   void AttendFinFatale(Donnees disparu) const {

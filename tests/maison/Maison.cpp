@@ -50,6 +50,13 @@ std::optional<fs::path> DansSrc(const fs::path& chemin) {
   return chemin.lexically_relative("src");
 }
 
+/// The floor of a folder of `src`, 0 for one that has none.
+int EtageDuDossier(const fs::path& dossier) {
+  const auto piece = std::find_if(pieces.begin(), pieces.end(),
+                                  [&](const Piece& p) { return dossier == p.dossier; });
+  return piece == pieces.end() ? 0 : piece->etage;
+}
+
 std::string Dit(const FichierSource& fichier, const std::string& quoi) {
   return fichier.chemin.generic_string() + " : " + quoi;
 }
@@ -121,16 +128,11 @@ int Etage(const fs::path& fichier) {
   if (fichier == "main.cpp") {
     return etageDepart;
   }
-  const std::string dossier = fichier.begin()->string();
-  const auto piece = std::find_if(pieces.begin(), pieces.end(),
-                                  [&](const Piece& p) { return p.dossier == dossier; });
-  if (piece == pieces.end()) {
-    return 0;
-  }
+  const int etage = EtageDuDossier(*fichier.begin());
   // A window lives with its catalogue, but above the controls that it is made of.
   const std::string nom = fichier.filename().string();
   const bool fenetre = nom.starts_with("frm") || nom.starts_with("Fenetre");
-  return fenetre && piece->etage < etageControles ? etageFenetres : piece->etage;
+  return fenetre && etage > 0 && etage < etageControles ? etageFenetres : etage;
 }
 
 Constats IncluantPlusHaut(const fs::path& racine) {
@@ -175,6 +177,34 @@ Constats PiecesQuiSIncluent(const fs::path& racine) {
   return constats;
 }
 
+Constats ControlesAvecCatalogue(const fs::path& racine) {
+  Constats constats;
+  PourChaqueInclusion(racine, [&](const fs::path& de, const fs::path& vers) {
+    const int etage = EtageDuDossier(*vers.begin());
+    if (Etage(de) == etageControles && (etage == 3 || etage == 4)) {
+      constats.push_back("src/" + de.generic_string() + " : inclut " + vers.generic_string());
+    }
+  });
+  return constats;
+}
+
+Constats FenetresNommantUnFichier(const fs::path& racine) {
+  static const std::regex nom(
+      R"re(\bDonnees::|\bGL(R[1-4]|F[12]|M[12]|V[1-3]|MV|T[12]|FV[1-3]|MCN?|PREF)\b(\.\w+)?)re");
+  Constats constats;
+  for (const FichierSource& fichier : Sources(racine, "src")) {
+    if (!EstCpp(fichier.chemin) || Etage(*DansSrc(fichier.chemin)) != etageFenetres) {
+      continue;
+    }
+    for (const std::string& ligne : fichier.lignes) {
+      if (std::smatch trouve; std::regex_search(ligne, trouve, nom)) {
+        constats.push_back(Dit(fichier, "nomme " + trouve.str()));
+      }
+    }
+  }
+  return constats;
+}
+
 Constats QtSousLesFenetres(const fs::path& racine) {
   Constats constats;
   for (const FichierSource& fichier : Sources(racine, "src")) {
@@ -188,11 +218,13 @@ Constats QtSousLesFenetres(const fs::path& racine) {
 }
 
 Constats Cycles(const fs::path& racine) {
+  const auto salle = [](fs::path fichier) { return fichier.replace_extension(); };
   std::map<fs::path, std::vector<fs::path>> graphe;
   PourChaqueFichier(racine, [&](const FichierSource& fichier) {
     for (const Inclusion& inclusion : fichier.inclusions) {
-      if (const fs::path vers = Cible(racine, fichier, inclusion); !vers.empty()) {
-        graphe[fichier.chemin].push_back(vers);
+      const fs::path vers = Cible(racine, fichier, inclusion);
+      if (!vers.empty() && (salle(vers) != salle(fichier.chemin) || vers == fichier.chemin)) {
+        graphe[salle(fichier.chemin)].push_back(salle(vers));
       }
     }
   });

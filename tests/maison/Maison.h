@@ -23,10 +23,18 @@ Constats IncluantPlusHaut(const std::filesystem::path& racine);
 /// Two folders of floor 3, or of floor 4, include each other.
 Constats PiecesQuiSIncluent(const std::filesystem::path& racine);
 
+/// A control or a window base, which serve every window, includes a file of floor 3 or 4: it knows
+/// a catalogue.
+Constats ControlesAvecCatalogue(const std::filesystem::path& racine);
+
+/// A window, dialog or page names a data file, which is its catalogue's business.
+Constats FenetresNommantUnFichier(const std::filesystem::path& racine);
+
 /// A file below floor 5 includes a header of the toolkit.
 Constats QtSousLesFenetres(const std::filesystem::path& racine);
 
-/// Files of `src`, `usine`, `tests` or `bancs` that include each other in a ring.
+/// Rooms of `src`, `usine`, `tests` or `bancs` that include each other in a ring. A room is a
+/// header and the source of the same name; a file that includes itself is a ring too.
 Constats Cycles(const std::filesystem::path& racine);
 
 /// Files of code of the same four folders with more than `lignesAuPlus` lines.

@@ -88,6 +88,33 @@ TEST_F(Maison, DeuxPiecesVoisinesNeSIncluentPasLUneLAutre) {
   EXPECT_THAT(PiecesQuiSIncluent(racine()), ElementsAre("recettes et vins s'incluent"));
 }
 
+TEST_F(Maison, LesControlesNeConnaissentAucunCatalogue) {
+  Ecrit("src/recettes/Lecture.h", "");
+  Ecrit("src/maintenance/frmPreferences.h", "");
+  Ecrit("src/data/Vues.h", "");
+  Ecrit("src/controles/FenetreOnglets.h", "#include \"data/Vues.h\"\n");
+  Ecrit("src/recettes/frmListe.h", "#include \"recettes/Lecture.h\"\n");
+  EXPECT_THAT(ControlesAvecCatalogue(racine()), IsEmpty());
+  Ecrit("src/controles/FenetreOnglets.cpp", "#include \"recettes/Lecture.h\"\n");
+  Ecrit("src/controles/Boites.h", "#include \"maintenance/frmPreferences.h\"\n");
+  EXPECT_THAT(ControlesAvecCatalogue(racine()),
+              ElementsAre("src/controles/Boites.h : inclut maintenance/frmPreferences.h",
+                          "src/controles/FenetreOnglets.cpp : inclut recettes/Lecture.h"));
+}
+
+TEST_F(Maison, LesFenetresNeNommentAucunFichierDeDonnees) {
+  Ecrit("src/recettes/Lecture.cpp", "ExigeFichier(module, Donnees::GLR2);\n");
+  Ecrit("src/recettes/frmListe.cpp", "Donnees donnees; // GLISSE ANGLE\n");
+  EXPECT_THAT(FenetresNommantUnFichier(racine()), IsEmpty());
+  Ecrit("src/recettes/frmListe.cpp", "ExigeFichier(module, Donnees::GLR2);\n");
+  Ecrit("src/vins/frmVins.h", "/// Reads GLV2.DAT.\n");
+  Ecrit("src/fiches/FenetreFiches.cpp", "using enum Donnees; auto f = GLPREF;\n");
+  EXPECT_THAT(FenetresNommantUnFichier(racine()),
+              ElementsAre("src/fiches/FenetreFiches.cpp : nomme GLPREF",
+                          "src/recettes/frmListe.cpp : nomme Donnees::",
+                          "src/vins/frmVins.h : nomme GLV2.DAT"));
+}
+
 TEST_F(Maison, QtNEstPasSousLesFenetres) {
   Ecrit("src/controles/Cadre.h", "#include <QWidget>\n");
   Ecrit("src/recettes/frmListe.h", "#include <QWidget>\n");
@@ -100,14 +127,24 @@ TEST_F(Maison, QtNEstPasSousLesFenetres) {
                           "src/recettes/Lecture.h : inclut QString"));
 }
 
-TEST_F(Maison, AucunFichierNeRevientALuiMeme) {
+TEST_F(Maison, AucuneSalleNeRevientAElleMeme) {
   Ecrit("src/data/A.h", "#include \"data/B.h\"\n#include \"data/C.h\"\n");
   Ecrit("src/data/B.h", "#include \"data/C.h\"\n");
+  Ecrit("src/data/B.cpp", "#include \"data/B.h\"\n");
   Ecrit("src/data/C.h", "");
   EXPECT_THAT(Cycles(racine()), IsEmpty());
   Ecrit("src/data/C.h", "#include \"data/A.h\"\n");
+  EXPECT_THAT(Cycles(racine()), ElementsAre("src/data/A > src/data/B > src/data/C > src/data/A"));
+}
+
+TEST_F(Maison, UnEnTeteEtSaSourceSontUneSalle) {
+  Ecrit("src/recettes/frmA.h", "class frmB;\n");
+  Ecrit("src/recettes/frmA.cpp", "#include \"recettes/frmA.h\"\n");
+  Ecrit("src/recettes/frmB.h", "#include \"recettes/frmA.h\"\n");
+  EXPECT_THAT(Cycles(racine()), IsEmpty());
+  Ecrit("src/recettes/frmA.cpp", "#include \"recettes/frmA.h\"\n#include \"recettes/frmB.h\"\n");
   EXPECT_THAT(Cycles(racine()),
-              ElementsAre("src/data/A.h > src/data/B.h > src/data/C.h > src/data/A.h"));
+              ElementsAre("src/recettes/frmA > src/recettes/frmB > src/recettes/frmA"));
 }
 
 TEST_F(Maison, LesCyclesSeVoientDansLesQuatreDossiers) {

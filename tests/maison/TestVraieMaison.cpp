@@ -27,6 +27,14 @@ TEST(VraieMaison, LesPiecesVoisinesNeSIncluentPas) {
   EXPECT_THAT(PiecesQuiSIncluent(racine), IsEmpty());
 }
 
+TEST(VraieMaison, LesControlesNeConnaissentAucunCatalogue) {
+  EXPECT_THAT(ControlesAvecCatalogue(racine), IsEmpty());
+}
+
+TEST(VraieMaison, LesFenetresNeNommentAucunFichier) {
+  EXPECT_THAT(FenetresNommantUnFichier(racine), IsEmpty());
+}
+
 TEST(VraieMaison, QtResteAuDessusDuCoeur) {
   EXPECT_THAT(QtSousLesFenetres(racine), IsEmpty());
 }

@@ -97,6 +97,16 @@ TEST_F(MenusDuCadre, LesClesDAccesDUnMenuNeSeHeurtentPas) {
   }
 }
 
+TEST_F(MenusDuCadre, UneCleMalEcriteEchoueAussitot) {
+  QMainWindow fenetre;
+  BarresCadre barres(fenetre);
+  barres.SurCommande("mnuFilePrint", [] {});
+  EXPECT_THROW(barres.SurCommande("mnuFilePrnt", [] {}), std::invalid_argument);
+  EXPECT_THROW(barres.SurCommande("mnuFile", [] {}), std::invalid_argument);  // a menu does nothing
+  EXPECT_THROW(static_cast<void>(barres.Entree("Print")), std::invalid_argument);
+  EXPECT_THROW(static_cast<void>(barres.Menu("mnuFilePrint")), std::invalid_argument);
+}
+
 TEST_F(MenusDuCadre, ChaqueBoutonVautSonEntree) {
   QStringList vus;
   for (const gastrelle::BoutonBarre& bouton : BoutonsBarre()) {

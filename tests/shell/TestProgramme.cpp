@@ -2,51 +2,33 @@
 // outside.
 
 #include <filesystem>
-#include <memory>
+#include <optional>
 
-#include <QProcess>
-#include <QStandardPaths>
 #include <QTest>
 #include <gtest/gtest.h>
 
 #include "doublures/Bibliotheque.h"
 #include "doublures/Ecran.h"
+#include "doublures/EcranVirtuel.h"
 
 namespace gastrelle::essai {
 namespace {
 
-constexpr int patience = 20'000;  // milliseconds
-
 class Programme : public testing::Test {
  protected:
   void SetUp() override {
-    for (const char* outil : {"Xvfb", "xdotool"}) {
-      if (QStandardPaths::findExecutable(QLatin1String(outil)).isEmpty()) {
-        GTEST_SKIP() << outil << " n'est pas installé";
-      }
+    if (!EcranVirtuel::Possible()) {
+      GTEST_SKIP() << "il manque Xvfb ou xdotool";
     }
     std::filesystem::copy(PROGRAMME, b.dossier.chemin() / "gastrelle");
     b.dossier.Ecrit("GLPREF.DAT", Octets(RecPreferences{0, 0, 1}));
-    // It would start anew, and shut everyone out meanwhile, whenever its last guest leaves.
-    ecran.start("Xvfb", {"-displayfd", "1", "-noreset", "-screen", "0", "1000x800x24"});
-    ASSERT_TRUE(QTest::qWaitFor([&] { return ecran.canReadLine(); }, patience));
-    environnement.insert("DISPLAY", ":" + QString::fromLatin1(ecran.readLine()).trimmed());
-    environnement.insert("QT_QPA_PLATFORM", "xcb");
-    // The toolkit's own libraries keep memory until the end.
-    environnement.insert("ASAN_OPTIONS", "detect_leaks=0");
+    ecran.emplace();
   }
 
-  void TearDown() override {
-    for (QProcess* processus : {&programme, &ecran}) {
-      if (processus->state() != QProcess::NotRunning) {
-        processus->terminate();
-        processus->waitForFinished(patience);
-      }
-    }
-  }
+  void TearDown() override { EcranVirtuel::Arrete(programme); }
 
   void Lance(QProcess& processus) {
-    processus.setProcessEnvironment(environnement);
+    processus.setProcessEnvironment(ecran->environnement);
     processus.setStandardErrorFile(QProcess::nullDevice());
     processus.start(QString::fromStdString((b.dossier.chemin() / "gastrelle").string()), {});
     ASSERT_TRUE(processus.waitForStarted(patience));
@@ -54,7 +36,7 @@ class Programme : public testing::Test {
 
   QString Outil(const QStringList& arguments) {
     QProcess outil;
-    outil.setProcessEnvironment(environnement);
+    outil.setProcessEnvironment(ecran->environnement);
     outil.setStandardErrorFile(QProcess::nullDevice());
     outil.start("xdotool", arguments);
     outil.waitForFinished(patience);
@@ -91,8 +73,7 @@ class Programme : public testing::Test {
   }
 
   Bibliotheque b;
-  QProcessEnvironment environnement = QProcessEnvironment::systemEnvironment();
-  QProcess ecran;
+  std::optional<EcranVirtuel> ecran;
   QProcess programme;
 };
 

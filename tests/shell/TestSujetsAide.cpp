@@ -2,6 +2,7 @@
 
 #include "controles/Touches.h"
 #include "doublures/CadreVrai.h"
+#include "doublures/ToutesFenetres.h"
 #include "shell/FichierAide.h"
 
 namespace gastrelle::essai {
@@ -9,18 +10,12 @@ namespace {
 
 class SujetsDAide : public CadreVrai {
  protected:
-  SujetsDAide() {
-    b.GarnitFromages();
-    b.GarnitFiches(Donnees::GLM1);
-    b.GarnitFiches(Donnees::GLT1);
-  }
-
   /// Opens a window and goes through all of its tabs. Returns the topics of its pages.
-  QStringList Sujets(const char* entree, const char* nom) {
-    Choisit(entree);
-    const QWidget& fenetre = Le(nom);
+  QStringList Sujets(const LigneEssai& ligne) {
+    Choisit(ligne.entree);
+    const QWidget& fenetre = Le(ligne.nom);
     QStringList sujets;
-    for (int onglet = 1; onglet <= Trouve<QTabBar>(fenetre, "TabStrip1").count(); ++onglet) {
+    for (int onglet = 1; onglet <= ligne.onglets(); ++onglet) {
       CliqueOnglet(fenetre, onglet);
       const QWidget& page = Trouve(fenetre, ("Frame1(" + std::to_string(onglet) + ")").c_str());
       EXPECT_EQ(fenetre.property(proprieteSujet), page.property(proprieteSujet)) << onglet;
@@ -31,11 +26,14 @@ class SujetsDAide : public CadreVrai {
 };
 
 TEST_F(SujetsDAide, ChaqueOngletDeChaqueFenetreALeSienEtSaPage) {
-  Ouvre();
+  OuvreGarni();
   QStringList sujets{cadre->property(proprieteSujet).toString()};
-  sujets << Sujets("mnuViewRecettes", "frmRecettes") << Sujets("mnuViewFromages", "frmFromages")
-         << Sujets("mnuViewMenus", "frmMenus") << Sujets("mnuViewTermesTrucsAstuces", "frmTrucs");
-  EXPECT_EQ(sujets.size(), 1 + 5 + 5 + 4 + 4);
+  qsizetype attendus = 1;
+  for (const LigneEssai& ligne : ToutesLesFenetres()) {
+    sujets << Sujets(ligne);
+    attendus += ligne.onglets();
+  }
+  EXPECT_EQ(sujets.size(), attendus);
   EXPECT_EQ(sujets.removeDuplicates(), 0);
   // Whatever else bears a topic, inside a page or beside it.
   for (const QWidget* controle : cadre->findChildren<QWidget*>()) {
@@ -51,11 +49,14 @@ TEST_F(SujetsDAide, ChaqueOngletDeChaqueFenetreALeSienEtSaPage) {
 }
 
 TEST_F(SujetsDAide, SeulsLesFromagesOntUneLigneDansLaBandeDuLogo) {
-  Ouvre();
-  Sujets("mnuViewRecettes", "frmRecettes");
-  Sujets("mnuViewFromages", "frmFromages");
-  EXPECT_TRUE(Le("frmRecettes").findChildren<QWidget*>("lblLigneLogo").isEmpty());
-  EXPECT_EQ(Le("frmFromages").findChildren<QWidget*>("lblLigneLogo").size(), 5);
+  OuvreGarni();
+  for (const LigneEssai& ligne : ToutesLesFenetres()) {
+    Sujets(ligne);
+    const bool fromages = std::string_view(ligne.nom) == "frmFromages";
+    EXPECT_EQ(Le(ligne.nom).findChildren<QWidget*>("lblLigneLogo").size(),
+              fromages ? ligne.onglets() : 0)
+        << ligne.nom;
+  }
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include <QTest>
 
 #include "doublures/CadreVrai.h"
+#include "doublures/EcranVirtuel.h"
 
 namespace gastrelle::essai {
 namespace {
@@ -22,6 +23,19 @@ TEST_F(Cadre, SOuvreSurLesRecettesMaximisees) {
   EXPECT_EQ(b.module->contexteActif, 11);
   EXPECT_TRUE(Entree("mnuViewRecettes").isChecked());
   EXPECT_FALSE(b.module->premiereOuverture);
+}
+
+TEST_F(Cadre, CommenceLeClavierDansLeTexteDeLaRecette) {
+  Ouvre();
+  EXPECT_EQ(QApplication::focusWidget(), &Le("txtRecette"));
+  if (QGuiApplication::platformName() == "offscreen" && EcranVirtuel::Possible()) {
+    EXPECT_EQ(RejoueSurEcranVirtuel("Cadre.CommenceLeClavierDansLeTexteDeLaRecette"), 0);
+  }
+}
+
+TEST_F(Cadre, CommenceAussiLeClavierDansLeTexteEnTailleNormale) {
+  Ouvre({1, 0, 1});
+  EXPECT_EQ(QApplication::focusWidget(), &Le("txtRecette"));
 }
 
 TEST_F(Cadre, ToutNombreAutreQueZeroOuvreLesRecettesEnTailleNormale) {

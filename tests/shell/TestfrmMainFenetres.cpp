@@ -6,18 +6,12 @@
 #include <QTest>
 
 #include "doublures/CadreVrai.h"
+#include "doublures/ToutesFenetres.h"
 
 namespace gastrelle::essai {
 namespace {
 
-struct CasFenetre {
-  const char* bouton;
-  const char* entree;
-  const char* nom;
-  std::int16_t contexte;
-};
-
-class FenetresDuCadre : public CadreVrai, public testing::WithParamInterface<CasFenetre> {
+class FenetresDuCadre : public CadreVrai, public testing::WithParamInterface<LigneEssai> {
  protected:
   /// The frame with no child window open.
   void OuvreVide() {
@@ -27,7 +21,7 @@ class FenetresDuCadre : public CadreVrai, public testing::WithParamInterface<Cas
     ASSERT_TRUE(enfants().subWindowList().isEmpty());
   }
   void AttendSaFenetre() {
-    EXPECT_EQ(b.module->contexteActif, GetParam().contexte);
+    EXPECT_EQ(b.module->contexteActif, GetParam().premierContexte);
     EXPECT_EQ(enfants().activeSubWindow(), &Sous(GetParam().nom));
     EXPECT_TRUE(Sous(GetParam().nom).isVisible());
     EXPECT_TRUE(Entree(GetParam().entree).isChecked());
@@ -61,13 +55,9 @@ TEST_P(FenetresDuCadre, SeulesSOuvrentEnTailleNormaleSiLaPreferenceLeVeut) {
   EXPECT_FALSE(Sous(GetParam().nom).isMaximized());
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Vues, FenetresDuCadre,
-    testing::Values(CasFenetre{"Recette", "mnuViewRecettes", "frmRecettes", 11},
-                    CasFenetre{"Fromage", "mnuViewFromages", "frmFromages", 21},
-                    CasFenetre{"Menu", "mnuViewMenus", "frmMenus", 31},
-                    CasFenetre{"Tool", "mnuViewTermesTrucsAstuces", "frmTrucs", 61}),
-    [](const auto& cas) { return std::string(cas.param.nom); });
+INSTANTIATE_TEST_SUITE_P(Vues, FenetresDuCadre,
+                         testing::ValuesIn(ToutesLesFenetres().begin(), ToutesLesFenetres().end()),
+                         testing::PrintToStringParamName());
 
 class PlusieursFenetres : public CadreVrai {
  protected:

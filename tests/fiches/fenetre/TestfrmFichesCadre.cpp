@@ -10,10 +10,7 @@ namespace {
 
 class FichesDansLeCadre : public CadreVrai {
  protected:
-  FichesDansLeCadre() {
-    b.GarnitFiches(Donnees::GLM1);
-    b.GarnitFiches(Donnees::GLT1);
-  }
+  FichesDansLeCadre() { b.Garnit(); }
   bool BoutonPermis(const char* cle) { return BoutonBarre(cle).isEnabled(); }
   void FermeTout() {
     Choisit("mnuWindowClose");

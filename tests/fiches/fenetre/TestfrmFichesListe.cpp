@@ -125,16 +125,6 @@ TEST_P(FichesListe, CliquerLOngletAfficheNeChangeRien) {
   EXPECT_THAT(cadre->contextes, SizeIs(contextes));
 }
 
-TEST_P(FichesListe, TousLesChangementsDOngletSontPermis) {
-  Ouvre();
-  for (const int vers : {4, 3, 2, 4, 2, 3, 1}) {
-    CliqueOnglet(*fenetre, vers);
-    EXPECT_EQ(onglet(), vers);
-    EXPECT_EQ(cadre->contextes.back(), cas.contexteBase + vers);
-  }
-  EXPECT_THAT(b.son.joues, IsEmpty());
-}
-
 TEST_P(FichesListe, SeulLOngletDeLaListeALAffichage) {
   Ajoute("Agape", "Du vin.");
   Ouvre();
@@ -201,11 +191,6 @@ TEST_P(FichesListe, UneLectureQuiEchoueALOuvertureFinitLeProgrammeSansAutreMessa
   b.disque.EchoueSur("lit " + Nom(c.fiches), Panne::entreeSortie);
   EXPECT_THROW(Cree(), FinDuProgramme);
   AttendMessage("Erreur fatale. Impossibilité de continuer.", Icone::critique);
-}
-
-TEST_P(FichesListe, ChaqueBoutonDAideEnvoieLaToucheF1) {
-  Ouvre();
-  AttendF1({"cmdAideListe", "cmdAideAjouter", "cmdAideModifier", "cmdAideSupprimer"});
 }
 
 }  // namespace

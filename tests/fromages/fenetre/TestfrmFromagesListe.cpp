@@ -178,11 +178,6 @@ TEST_F(ListeDesFromages, UnClicSurLOngletPresentNeFaitRien) {
   EXPECT_THAT(cadre->contextes, IsEmpty());
 }
 
-TEST_F(ListeDesFromages, ChaqueBoutonDAideEnvoieLaToucheF1) {
-  Ouvre();
-  AttendF1({"cmdAideListe", "cmdAideAjouter", "cmdAideModifier", "cmdAideSupprimer", "cmdAide"});
-}
-
 TEST_F(ListeDesFromages, LaDesactivationLaReductionEtLaFermetureQuittentLeContexte) {
   Ouvre();
   fenetre->Desactive();

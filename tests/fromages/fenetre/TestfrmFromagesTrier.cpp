@@ -171,29 +171,6 @@ TEST_F(TrierLesFromages, UnFromageQueLaListeNAPasNAfficheRien) {
   EXPECT_FALSE(FinVue());
 }
 
-TEST_F(TrierLesFromages, LesOngletsModifierEtSupprimerSontRefusesAvecLeSon) {
-  Ouvre(5);
-  const std::string son = VersUtf8(b.module->chemins.De("Exclamation"));
-  CliqueOnglet(*fenetre, 3);
-  EXPECT_EQ(onglet(), 5);
-  CliqueOnglet(*fenetre, 4);
-  EXPECT_EQ(onglet(), 5);
-  EXPECT_TRUE(Le("Frame1(5)").isVisible());
-  EXPECT_THAT(b.son.joues, ElementsAre(son, son));
-  EXPECT_THAT(b.messages.vus, IsEmpty());
-  EXPECT_EQ(b.module->contexteActif, 25);
-}
-
-TEST_F(TrierLesFromages, LesOngletsListeEtAjouterSontPermis) {
-  Ouvre(5);
-  CliqueOnglet(*fenetre, 2);
-  EXPECT_EQ(onglet(), 2);
-  CliqueOnglet(*fenetre, 5);
-  CliqueOnglet(*fenetre, 1);
-  EXPECT_EQ(onglet(), 1);
-  EXPECT_THAT(b.son.joues, IsEmpty());
-}
-
 TEST_F(TrierLesFromages, LAffichageDitLeLaitEtSesFromages) {
   OuvreAvecDeuxChevres();
   Choisit(lait(), 2);

@@ -102,27 +102,6 @@ TEST_F(Alpha, LaRecetteDejaAfficheeNeReliRien) {
   EXPECT_EQ(Rogne(b.module->bufRecette.courant().nomRecette.brut()), "Soupe");
 }
 
-TEST_F(Alpha, ModifierEtSupprimerSontRefusesAvecLeSon) {
-  OuvreAlpha();
-  for (const int refuse : {3, 4}) {
-    CliqueOnglet(*fenetre, refuse);
-    EXPECT_EQ(onglet(), 5);
-  }
-  EXPECT_THAT(b.son.joues, ElementsAre((b.dossier.chemin() / "Exclamation").string(),
-                                       (b.dossier.chemin() / "Exclamation").string()));
-  EXPECT_THAT(b.messages.vus, IsEmpty());
-}
-
-TEST_F(Alpha, ListeEtAjouterSontPermis) {
-  OuvreAlpha();
-  CliqueOnglet(*fenetre, 2);
-  EXPECT_EQ(onglet(), 2);
-  CliqueOnglet(*fenetre, 5);
-  CliqueOnglet(*fenetre, 1);
-  EXPECT_EQ(onglet(), 1);
-  EXPECT_THAT(b.son.joues, IsEmpty());
-}
-
 TEST_F(Alpha, LOngletDejaChoisiNeFaitRien) {
   OuvreAlpha();
   b.disque.OublieJournal();

@@ -1,12 +1,7 @@
-// The words of the recipes window, and what the keyboard finds on its pages.
-
-#include <QAbstractButton>
-#include <QKeySequence>
-#include <QTest>
+// The words of the recipes window: tabs, headings, captions, tooltips.
 
 #include "doublures/Mots.h"
 #include "recettes/frmRecettes.h"
-#include "shell/MenusCadre.h"
 
 namespace gastrelle::essai {
 namespace {
@@ -20,63 +15,6 @@ class MotsRecettes : public Mots<frmRecettes> {
       EXPECT_EQ(Texte(widget).remove(u'&'), Fr(bouton.legende)) << bouton.nom;
       EXPECT_EQ(widget.toolTip(), Fr(bouton.infobulle)) << bouton.nom;
     }
-  }
-
-  /// The controls that the key Tab visits, from the strip of tabs on and until it is back there.
-  std::vector<QWidget*> TourDuClavier() {
-    auto& onglets = Le("TabStrip1");
-    onglets.setFocus();
-    std::vector<QWidget*> tour;
-    for (;;) {
-      constexpr std::size_t plusQueTous = 40;
-      QTest::keyClick(fenetre->focusWidget(), Qt::Key_Tab);
-      QWidget* ici = fenetre->focusWidget();
-      if (ici == &onglets || tour.size() > plusQueTous) {
-        return tour;
-      }
-      tour.push_back(ici);
-    }
-  }
-  /// Where a control stands in the window.
-  QRect Place(const QWidget& controle) const {
-    return {controle.mapTo(fenetre.get(), QPoint()), controle.size()};
-  }
-  void AttendDeHautEnBas(const std::vector<QWidget*>& tour) {
-    for (std::size_t i = 1; i < tour.size(); ++i) {
-      const QRect avant = Place(*tour[i - 1]);
-      const QRect ici = Place(*tour[i]);
-      const bool memeRang = ici.top() < avant.bottom() && avant.top() < ici.bottom();
-      EXPECT_TRUE(memeRang ? ici.left() > avant.left() : ici.top() > avant.top())
-          << tour[i - 1]->objectName().toStdString() << ", " << tour[i]->objectName().toStdString();
-    }
-  }
-  /// The access keys of a page's buttons and captions.
-  static QStringList ClesDe(const QWidget& page) {
-    QStringList cles;
-    const auto retient = [&](const QString& texte) {
-      const QString cle = QKeySequence::mnemonic(texte).toString();
-      if (!cle.isEmpty()) {
-        cles << cle;
-      }
-    };
-    for (const auto* bouton : page.findChildren<QAbstractButton*>()) {
-      retient(bouton->text());
-    }
-    for (const auto* etiquette : page.findChildren<QLabel*>()) {
-      if (etiquette->buddy() != nullptr) {
-        retient(etiquette->text());
-      }
-    }
-    return cles;
-  }
-  static QStringList ClesDuCadre() {
-    QStringList cles;
-    for (const EntreeMenu& entree : EntreesMenus()) {
-      if (entree.rang == Rang::menu) {
-        cles << QKeySequence::mnemonic(QString::fromUtf16(entree.titre)).toString();
-      }
-    }
-    return cles;
   }
 };
 
@@ -156,54 +94,6 @@ TEST_F(MotsRecettes, Options) {
                  {"Option2(1)", "La recette", ""},
                  {"Option3(0)", "La famille de recettes", ""},
                  {"Option3(1)", "La recette", ""}});
-}
-
-TEST_F(MotsRecettes, ChaqueBoutonDAideEnvoieLaToucheF1) {
-  Ouvre();
-  AttendF1({"cmdAideListe", "cmdAideAjouter", "cmdAideModifier", "cmdAideSupprimer",
-            "cmdAideClassement"});
-}
-
-TEST_F(MotsRecettes, LaToucheTabVisiteChaquePageDeHautEnBas) {
-  b.AjouteRecette(b.AjouteFamille("Desserts"), "Avec", "texte", "/a.png");
-  std::filesystem::create_directory(b.dossier.chemin() / "IMAGE");
-  b.dossier.Ecrit("IMAGE/a.png", "x");
-  Ouvre();
-  const std::array<const char*, 5> attendus{
-      "ComboFamilles ComboRecettes txtRecette cmdCameraListe cmdAideListe",
-      "Option1(0) Option1(1) ComboFamillesAjouter txtSaisieNomRecette txtSaisieRecetteAjouter "
-      "txtImageAjouter cmdImageAjouter PictureWeb cmdValideAjouter cmdEffacerAjouter "
-      "cmdAideAjouter",
-      "Option2(0) Option2(1) ComboFamillesModifier txtSaisieNomRecetteModifier "
-      "txtSaisieRecetteModifier txtImageModifier cmdImageModifier cmdValideModifier "
-      "cmdEffacerModifier cmdAideModifier",
-      "Option3(0) Option3(1) txtTexteRecetteSupprimer cmdSupprimer cmdAideSupprimer",
-      "lstRecettesTri cmdValideTri cmdAideClassement"};
-  for (int onglet = 1; onglet <= 5; ++onglet) {
-    SCOPED_TRACE(onglet);
-    CliqueOnglet(*fenetre, onglet);
-    const std::vector<QWidget*> tour = TourDuClavier();
-    QStringList noms;
-    for (const QWidget* controle : tour) {
-      noms << controle->objectName();
-    }
-    EXPECT_EQ(noms.join(u' ').toStdString(), attendus[static_cast<std::size_t>(onglet) - 1]);
-    AttendDeHautEnBas(tour);
-  }
-}
-
-TEST_F(MotsRecettes, LesClesDAccesDUnePageSontUniquesEtLaissentLesMenusDuCadre) {
-  OuvreEtParcourt();
-  ASSERT_EQ(ClesDuCadre().size(), 5);
-  for (int onglet = 1; onglet <= 5; ++onglet) {
-    QStringList prises = ClesDuCadre();
-    const QStringList cles = ClesDe(Le(("Frame1(" + std::to_string(onglet) + ")").c_str()));
-    EXPECT_FALSE(cles.isEmpty());
-    for (const QString& cle : cles) {
-      EXPECT_FALSE(prises.contains(cle)) << onglet << ' ' << cle.toStdString();
-      prises << cle;
-    }
-  }
 }
 
 }  // namespace

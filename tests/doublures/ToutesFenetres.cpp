@@ -1,0 +1,77 @@
+#include "doublures/ToutesFenetres.h"
+
+#include "fiches/frmMenus.h"
+#include "fiches/frmTrucs.h"
+#include "fromages/frmFromages.h"
+#include "recettes/frmRecettes.h"
+
+namespace gastrelle::essai {
+namespace {
+
+template <class Fenetre>
+std::unique_ptr<FenetreEnfant> Cree(Module1& module, gastrelle::Cadre& cadre) {
+  return std::make_unique<Fenetre>(module, cadre);
+}
+
+const std::vector<LigneEssai> lignes{
+    {"frmRecettes",
+     "mnuViewRecettes",
+     "Recette",
+     11,
+     {{5, 3}, {5, 4}},
+     {"ComboFamilles ComboRecettes txtRecette cmdCameraListe cmdAideListe",
+      "Option1(0) Option1(1) ComboFamillesAjouter txtSaisieNomRecette txtSaisieRecetteAjouter "
+      "txtImageAjouter cmdImageAjouter PictureWeb cmdValideAjouter cmdEffacerAjouter "
+      "cmdAideAjouter",
+      "Option2(0) Option2(1) ComboFamillesModifier txtSaisieNomRecetteModifier "
+      "txtSaisieRecetteModifier txtImageModifier cmdImageModifier cmdValideModifier "
+      "cmdEffacerModifier cmdAideModifier",
+      "Option3(0) Option3(1) txtTexteRecetteSupprimer cmdSupprimer cmdAideSupprimer",
+      "lstRecettesTri cmdValideTri cmdAideClassement"},
+     Cree<frmRecettes>},
+    {"frmFromages",
+     "mnuViewFromages",
+     "Fromage",
+     21,
+     {{5, 3}, {5, 4}},
+     {"ComboFromages txtRegion txtLait txtPremierMois txtDernierMois txtNotes cmdAideListe",
+      "txtFromageAjouter txtRegionAjouter ComboLaitAjouter ComboPremierMoisAjouter "
+      "ComboDernierMoisAjouter txtNotesAjouter cmdValideAjouter cmdEffacerAjouter cmdAideAjouter",
+      "txtFromageModifier txtRegionModifier ComboLaitModifier ComboPremierMoisModifier "
+      "ComboDernierMoisModifier txtNotesModifier cmdValiderModifier cmdEffacerModifier "
+      "cmdAideModifier",
+      "txtFromageSupprimer txtRegionSupprimer txtLaitSupprimer txtPremierMoisSupprimer "
+      "txtDernierMoisSupprimer txtNotesSupprimer cmdSupprimer cmdAideSupprimer",
+      "ComboLaitTrier cmdAide"},
+     Cree<frmFromages>},
+    {"frmMenus",
+     "mnuViewMenus",
+     "Menu",
+     31,
+     {},
+     {"ComboMenus txtMenu cmdAideListe",
+      "txtSaisieNomMenu txtSaisieMenuAjouter cmdValideAjouter cmdEffacerAjouter cmdAideAjouter",
+      "txtSaisieNomMenuModifier txtSaisieMenuModifier cmdValideModifier cmdEffacerModifier "
+      "cmdAideModifier",
+      "txtSaisieNomSupprimer txtSaisieMenuSupprimer cmdSupprimer cmdAideSupprimer"},
+     Cree<frmMenus>},
+    {"frmTrucs",
+     "mnuViewTermesTrucsAstuces",
+     "Tool",
+     61,
+     {},
+     {"ComboTrucs txtTruc cmdAideListe",
+      "txtSaisieNomTruc txtSaisieTrucAjouter cmdValideAjouter cmdEffacerAjouter cmdAideAjouter",
+      "txtSaisieNomTrucModifier txtSaisieTrucModifier cmdValideModifier cmdEffacerModifier "
+      "cmdAideModifier",
+      "txtSaisieNomSupprimer txtSaisieTrucSupprimer cmdSupprimer cmdAideSupprimer"},
+     Cree<frmTrucs>},
+};
+
+}  // namespace
+
+std::span<const LigneEssai> ToutesLesFenetres() {
+  return lignes;
+}
+
+}  // namespace gastrelle::essai
