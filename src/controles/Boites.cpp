@@ -39,13 +39,13 @@ void MessagesEcran::Informe(std::string_view texte, Icone icone, std::string_vie
   boite.exec();
 }
 
-Reponse MessagesEcran::Demande(std::string_view texte, Boutons boutons) {
+Reponse MessagesEcran::Demande(std::string_view texte, Choix choix) {
   QMessageBox boite(QApplication::activeWindow());
   Prepare(boite, texte, Icone::exclamation, titreApplication);
   const QPushButton* oui = boite.addButton(QStringLiteral("Oui"), QMessageBox::YesRole);
   QPushButton* non = boite.addButton(QStringLiteral("Non"), QMessageBox::NoRole);
   QPushButton* sortie = non;
-  if (boutons == Boutons::ouiNonAnnuler) {
+  if (choix == Choix::ouiNonAnnuler) {
     sortie = boite.addButton(QStringLiteral("Annuler"), QMessageBox::RejectRole);
   }
   boite.setDefaultButton(non);

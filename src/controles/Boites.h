@@ -9,7 +9,7 @@ class MessagesEcran final : public Messages {
  public:
   void Informe(std::string_view texte, Icone icone,
                std::string_view titre = titreApplication) override;
-  Reponse Demande(std::string_view texte, Boutons boutons = Boutons::ouiNon) override;
+  Reponse Demande(std::string_view texte, Choix choix = Choix::ouiNon) override;
   void Bip() override;
 };
 

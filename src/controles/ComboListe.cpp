@@ -46,7 +46,7 @@ int ComboListe::IndiceDe(std::int32_t donnee) const {
   return *indice;
 }
 
-void ComboListe::ChoisitDonnee(std::int32_t donnee) {
+void ComboListe::ChoisitNumero(std::int32_t donnee) {
   Choisit(IndiceDe(donnee));
 }
 
@@ -83,7 +83,7 @@ void ComboListe::Vide() {
   setCurrentIndex(-1);
 }
 
-std::int32_t ComboListe::Donnee() const {
+std::int32_t ComboListe::NumeroChoisi() const {
   if (currentIndex() < 0) {
     throw ErreurExecution(Panne::appelIncorrect);
   }

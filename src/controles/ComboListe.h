@@ -20,7 +20,7 @@ class ComboListe final : public QComboBox {
   /// Chooses an entry from code and fires `surChoix`. An index outside the list chooses nothing.
   void Choisit(int indice);
   /// Chooses the entry that bears `donnee`; raises error 53 if none does.
-  void ChoisitDonnee(std::int32_t donnee);
+  void ChoisitNumero(std::int32_t donnee);
   /// Chooses without firing: for lists whose choice has no event.
   void Montre(int indice);
 
@@ -38,7 +38,7 @@ class ComboListe final : public QComboBox {
   [[nodiscard]] bool ContientTexte(std::string_view texte, int sauf = -1) const;
 
   /// Item data of the chosen entry; a failure when there is none.
-  [[nodiscard]] std::int32_t Donnee() const;
+  [[nodiscard]] std::int32_t NumeroChoisi() const;
   /// Text of the chosen entry, Windows-1252 and trimmed as all names are; empty when there is none.
   [[nodiscard]] std::string Texte() const;
 

@@ -38,7 +38,7 @@ class DeuxModes {
   void RendFocus() const;
 
  private:
-  void Change();
+  void Bascule();
   void PermetControles();
   [[nodiscard]] const Mode& present() const { return modes_[premier() ? 0 : 1]; }
 

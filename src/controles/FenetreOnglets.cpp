@@ -62,16 +62,16 @@ void FenetreOnglets::MontreOnglet(int onglet) {
     const QSignalBlocker muette(TabStrip1_);
     ChoisitOnglet(onglet);
   }
-  PasseA(onglet);
+  MontrePage(onglet);
 }
 
 void FenetreOnglets::ClicOnglet(int onglet) {
   if (onglet != ongletCourant_) {
-    PermetOnglet(onglet) ? PasseA(onglet) : ChoisitOnglet(ongletCourant_);
+    PermetOnglet(onglet) ? MontrePage(onglet) : ChoisitOnglet(ongletCourant_);
   }
 }
 
-void FenetreOnglets::PasseA(int onglet) {
+void FenetreOnglets::MontrePage(int onglet) {
   cadres_->setCurrentWidget(&Page(onglet));
   ongletCourant_ = onglet;
   EtatOnglet();

@@ -101,7 +101,7 @@ class FenetreOnglets : public FenetreEnfant {
 
  private:
   void ClicOnglet(int onglet);
-  void PasseA(int onglet);
+  void MontrePage(int onglet);
 
   const JeuOnglets& jeu_;
   QTabBar* TabStrip1_;

@@ -23,7 +23,7 @@ void ListeChoix::Choisit(int indice) {
   }
 }
 
-std::int32_t ListeChoix::Donnee() const {
+std::int32_t ListeChoix::NumeroChoisi() const {
   if (indice() < 0) {
     throw ErreurExecution(Panne::appelIncorrect);
   }

@@ -28,7 +28,7 @@ class ListeChoix final : public QListView {
   /// Index of the chosen entry, -1 for none.
   [[nodiscard]] int indice() const { return currentIndex().row(); }
   /// Item data of the chosen entry; a failure when there is none.
-  [[nodiscard]] std::int32_t Donnee() const;
+  [[nodiscard]] std::int32_t NumeroChoisi() const;
 
  protected:
   void currentChanged(const QModelIndex& courant, const QModelIndex& precedent) override;

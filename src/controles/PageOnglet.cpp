@@ -65,7 +65,7 @@ QLabel* PageOnglet::Legende(const QString& texte, QWidget* pour) {
   return legende;
 }
 
-int PageOnglet::Rang(const QString& legende, QWidget* controle) {
+int PageOnglet::AjouteACote(const QString& legende, QWidget* controle) {
   constexpr int jusquAuBord = -1;
   const int rang = contenu_->count() == 0 ? 0 : contenu_->rowCount();
   // Beside a box of several lines the caption stands at its head.
@@ -76,7 +76,7 @@ int PageOnglet::Rang(const QString& legende, QWidget* controle) {
   return rang;
 }
 
-int PageOnglet::Etage(const QString& legende, QWidget* controle) {
+int PageOnglet::AjouteDessous(const QString& legende, QWidget* controle) {
   const int rang = contenu_->count() == 0 ? 0 : contenu_->rowCount();
   contenu_->addWidget(Legende(legende, controle), rang, 0);
   contenu_->addWidget(controle, rang + 1, 0);

@@ -39,10 +39,10 @@ class PageOnglet : public Onglet {
 
   /// The next row of the page: a caption, and a control beside it up to the page's right edge.
   /// Returns the number of the row.
-  int Rang(const QString& legende, QWidget* controle);
+  int AjouteACote(const QString& legende, QWidget* controle);
   /// The next two rows of the page: a caption, and a control under it over the page's whole width.
   /// Returns the number of the control's row.
-  int Etage(const QString& legende, QWidget* controle);
+  int AjouteDessous(const QString& legende, QWidget* controle);
 
  private:
   FenetreOnglets& hote_;

@@ -77,22 +77,22 @@ constexpr bool SeSuivent() {
 static_assert(std::endian::native == std::endian::little);
 
 template <class Entier>
-void Range(Entier valeur, char* place) {
+void Ecrit(Entier valeur, char* place) {
   std::memcpy(place, &valeur, sizeof valeur);
 }
 
 template <std::size_t N>
-void Range(const TexteFixe<N>& valeur, char* place) {
+void Ecrit(const TexteFixe<N>& valeur, char* place) {
   std::memcpy(place, valeur.brut().data(), N);
 }
 
 template <class Entier>
-void Tire(Entier& valeur, const char* place) {
+void Lit(Entier& valeur, const char* place) {
   std::memcpy(&valeur, place, sizeof valeur);
 }
 
 template <std::size_t N>
-void Tire(TexteFixe<N>& valeur, const char* place) {
+void Lit(TexteFixe<N>& valeur, const char* place) {
   std::memcpy(valeur.octets().data(), place, N);
 }
 
@@ -110,7 +110,7 @@ std::array<char, longueurEnregistrement<Enregistrement>> Code(const Enregistreme
   std::array<char, longueurEnregistrement<Enregistrement>> octets{};
   std::apply(
       [&](const auto&... champ) {
-        (detail::Range(e.*champ.membre, octets.data() + champ.decalage), ...);
+        (detail::Ecrit(e.*champ.membre, octets.data() + champ.decalage), ...);
       },
       champs<Enregistrement>);
   return octets;
@@ -120,7 +120,7 @@ std::array<char, longueurEnregistrement<Enregistrement>> Code(const Enregistreme
 template <class Enregistrement>
 void Decode(Enregistrement& e, const char* octets) {
   std::apply(
-      [&](const auto&... champ) { (detail::Tire(e.*champ.membre, octets + champ.decalage), ...); },
+      [&](const auto&... champ) { (detail::Lit(e.*champ.membre, octets + champ.decalage), ...); },
       champs<Enregistrement>);
 }
 

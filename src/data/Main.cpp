@@ -53,7 +53,7 @@ void PrepareFichier(Module1& module, Donnees fichier, std::string& chemin) {
   VerifieEntete(module, fichier);
 }
 
-void PrepareFichiers(Module1& module) {
+void PrepareDonnees(Module1& module) {
   std::string chemin;
   try {
     for (std::size_t i = 0; i < static_cast<std::size_t>(Donnees::GLPREF); ++i) {
@@ -101,7 +101,7 @@ void Main(Module1& module, bool dejaEnCours, const std::function<void()>& montre
            Icone::information);
   }
   module.fichierAide = module.chemins.De("gl32.hlp");
-  PrepareFichiers(module);
+  PrepareDonnees(module);
   ChargePreferences(module);
   if (!DossierExiste(module, dossierImages)) {
     module.services.disque.CreerDossier(std::string(dossierImages));

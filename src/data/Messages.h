@@ -11,7 +11,7 @@ inline constexpr std::string_view CRLF = "\r\n";
 enum class Icone { aucune, information, exclamation, critique };
 
 /// The buttons of a question. The second one is always the default.
-enum class Boutons { ouiNon, ouiNonAnnuler };
+enum class Choix { ouiNon, ouiNonAnnuler };
 
 enum class Reponse { oui, non, annuler };
 
@@ -27,7 +27,7 @@ class Messages {
   virtual void Informe(std::string_view texte, Icone icone,
                        std::string_view titre = titreApplication) = 0;
   /// A question with the exclamation icon, No as its default, the application title.
-  virtual Reponse Demande(std::string_view texte, Boutons boutons = Boutons::ouiNon) = 0;
+  virtual Reponse Demande(std::string_view texte, Choix choix = Choix::ouiNon) = 0;
   virtual void Bip() = 0;
 };
 

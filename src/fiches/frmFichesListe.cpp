@@ -14,8 +14,8 @@ frmFichesListe::frmFichesListe(const PlaceOnglet& place, const DescriptionFiches
   const DescriptionSaisie& controles = description.liste;
   texte->RendLectureSeule();
   combo->setToolTip(QString::fromUtf16(controles.infobulleTitre));
-  Etage(QString::fromUtf16(controles.legendeTitre), combo);
-  contenu().setRowStretch(Etage(QString::fromUtf16(controles.legendeTexte), texte), 1);
+  AjouteDessous(QString::fromUtf16(controles.legendeTitre), combo);
+  contenu().setRowStretch(AjouteDessous(QString::fromUtf16(controles.legendeTexte), texte), 1);
   boutons().Aide("cmdAideListe");
   combo->surChoix = [this] { Affiche(); };
 }
@@ -33,7 +33,7 @@ void frmFichesListe::Recharge() {
 
 void frmFichesListe::Affiche() {
   Opere(module(),
-        [&] { texte->PoseTexte(LitFiche(module(), description.fichiers, combo->Donnee())); });
+        [&] { texte->PoseTexte(LitFiche(module(), description.fichiers, combo->NumeroChoisi())); });
   DonneFocus(texte);
 }
 

@@ -28,7 +28,7 @@ void frmFichesModifier::Valide() {
   }
   Opere(module(), [&] {
     texte->RogneTexte();
-    const std::int32_t numero = liste.combo->Donnee();
+    const std::int32_t numero = liste.combo->NumeroChoisi();
     ChangeFiche(module(), description.fichiers, numero, titre->Texte(), texte->Texte());
     liste.Recharge();
     hote().MontreEnregistrement(numero);

@@ -15,8 +15,8 @@ frmFichesSaisie::frmFichesSaisie(const PlaceOnglet& place, frmFichesListe& laLis
   const DescriptionSaisie& siens = description.*controles;
   titre->setToolTip(QString::fromUtf16(siens.infobulleTitre));
   texte->setToolTip(QString::fromUtf16(siens.infobulleTexte));
-  Etage(QString::fromUtf16(siens.legendeTitre), titre);
-  contenu().setRowStretch(Etage(QString::fromUtf16(siens.legendeTexte), texte), 1);
+  AjouteDessous(QString::fromUtf16(siens.legendeTitre), titre);
+  contenu().setRowStretch(AjouteDessous(QString::fromUtf16(siens.legendeTexte), texte), 1);
 }
 
 void frmFichesSaisie::Reprend() {

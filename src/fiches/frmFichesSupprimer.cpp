@@ -19,7 +19,7 @@ void frmFichesSupprimer::Entre() {
   Reprend();
   const ComboListe& combo = *liste.combo;
   const bool permise =
-      combo.currentIndex() >= 0 && !EstProtegee(description.fichiers, combo.Donnee());
+      combo.currentIndex() >= 0 && !EstProtegee(description.fichiers, combo.NumeroChoisi());
   const QString infobulle = permise ? QString() : QString::fromUtf16(description.infobulleProtegee);
   titre->setToolTip(infobulle);
   texte->setToolTip(infobulle);
@@ -41,7 +41,7 @@ void frmFichesSupprimer::Supprime() {
     return;
   }
   Opere(module(), [&] {
-    SupprimeFiche(module(), description.fichiers, liste.combo->Donnee());
+    SupprimeFiche(module(), description.fichiers, liste.combo->NumeroChoisi());
     liste.Recharge();
     hote().ChoisitOnglet(ongletListe);
     liste.combo->Choisit(0);

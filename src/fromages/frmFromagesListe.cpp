@@ -28,7 +28,7 @@ void frmFromagesListe::Recharge() {
 
 void frmFromagesListe::AfficheFromage() {
   Opere(module(), [&] {
-    fromage = LitFromage(module(), ComboFromages->Donnee());
+    fromage = LitFromage(module(), ComboFromages->NumeroChoisi());
     Montre(fromage);
   });
   Entre();

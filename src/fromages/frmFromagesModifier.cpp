@@ -36,7 +36,7 @@ void frmFromagesModifier::Valide() {
       hote().Refuse("Ce fromage existe déjà."_1252, txtFromage);
       return;
     }
-    const std::int32_t numero = liste_.ComboFromages->Donnee();
+    const std::int32_t numero = liste_.ComboFromages->NumeroChoisi();
     ChangeFromage(module(), numero, Saisi());
     liste_.Recharge();
     hote().MontreEnregistrement(numero);

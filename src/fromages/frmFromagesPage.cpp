@@ -10,8 +10,8 @@ constexpr int lettresCode = 24;  ///< width of a milk or a month, with the arrow
 }  // namespace
 
 void frmFromagesPage::Dispose(const ChampsFromage& champs) {
-  Rang(QStringLiteral("Le fromage"), champs.nom);
-  Rang(QStringLiteral("Sa région d'origine"), champs.region);
+  AjouteACote(QStringLiteral("Le fromage"), champs.nom);
+  AjouteACote(QStringLiteral("Sa région d'origine"), champs.region);
   RangCourt(Legende(QStringLiteral("Au lait de "), champs.lait), {champs.lait});
   RangCourt(new QLabel(QStringLiteral("Meilleure période de dégustation "), this),
             {Legende(QStringLiteral("de"), champs.premierMois), champs.premierMois,
@@ -21,7 +21,7 @@ void frmFromagesPage::Dispose(const ChampsFromage& champs) {
   for (QWidget* code : {champs.lait, champs.premierMois, champs.dernierMois}) {
     code->setFixedWidth(lettresCode * code->fontMetrics().averageCharWidth());
   }
-  contenu().setRowStretch(Rang(QStringLiteral("Notes"), champs.notes), 1);
+  contenu().setRowStretch(AjouteACote(QStringLiteral("Notes"), champs.notes), 1);
   OrdonneClavier({champs.nom, champs.region, champs.lait, champs.premierMois, champs.dernierMois,
                   champs.notes});
 }

@@ -21,7 +21,7 @@ void frmFromagesSupprimer::Entre() {
   txtFromage_->PoseTexte(liste_.fromage.nom);
   Montre(liste_.fromage);
   const ComboListe& fromages = *liste_.ComboFromages;
-  Protege(fromages.currentIndex() < 0 || fromages.Donnee() <= dernierFromageProtege);
+  Protege(fromages.currentIndex() < 0 || fromages.NumeroChoisi() <= dernierFromageProtege);
 }
 
 void frmFromagesSupprimer::Protege(bool protege) {
@@ -41,7 +41,7 @@ void frmFromagesSupprimer::Supprime() {
     return;
   }
   Opere(module(), [&] {
-    SupprimeFromage(module(), liste_.ComboFromages->Donnee());
+    SupprimeFromage(module(), liste_.ComboFromages->NumeroChoisi());
     liste_.Recharge();
     hote().ChoisitOnglet(ongletListe);
     liste_.ComboFromages->Choisit(0);

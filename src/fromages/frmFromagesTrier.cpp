@@ -91,8 +91,8 @@ void frmFromagesTrier::ChoisitLait() {
 }
 
 void frmFromagesTrier::AfficheSelection() {
-  if (List1_->indice() >= 0 && liste_.ComboFromages->modele().IndiceDe(List1_->Donnee())) {
-    hote().MontreEnregistrement(List1_->Donnee());
+  if (List1_->indice() >= 0 && liste_.ComboFromages->modele().IndiceDe(List1_->NumeroChoisi())) {
+    hote().MontreEnregistrement(List1_->NumeroChoisi());
   }
 }
 

@@ -71,12 +71,12 @@ frmPreferences::frmPreferences(Module1& module, QWidget* parent)
   setWindowTitle(VersQt(titreApplication) + QStringLiteral(" - Préférences"));
   setProperty(proprieteSujet, QStringLiteral("preferences"));
   auto* grille = new QGridLayout(this);
-  AjouteLignes(*grille);
+  ComposeGrille(*grille);
   AjouteBoutons(*grille);
   grille->setSizeConstraint(QLayout::SetFixedSize);
 }
 
-void frmPreferences::AjouteLignes(QGridLayout& grille) {
+void frmPreferences::ComposeGrille(QGridLayout& grille) {
   constexpr int espace = 18;
   constexpr int marge = 20;
   grille.setContentsMargins(marge, marge, marge, marge);

@@ -16,7 +16,7 @@ class frmPreferences final : public QDialog {
   frmPreferences(Module1& module, QWidget* parent);
 
  private:
-  void AjouteLignes(QGridLayout& grille);
+  void ComposeGrille(QGridLayout& grille);
   void AjouteBoutons(QGridLayout& grille);
   void Enregistre();
 

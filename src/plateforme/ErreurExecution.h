@@ -16,7 +16,7 @@ enum class Panne : int {
   disquePlein = 61,
   numeroEnregistrement = 63,
   permissionRefusee = 70,
-  accesFichier = 75,
+  accesChemin = 75,
   cheminIntrouvable = 76,
 };
 

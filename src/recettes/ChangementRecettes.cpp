@@ -8,7 +8,7 @@ namespace gastrelle {
 namespace {
 
 /// The picture's path goes to the end of its pool, also when it hasn't changed.
-void PoseImage(Module1& module, std::string_view image) {
+void EcritImage(Module1& module, std::string_view image) {
   RecRecette& recette = module.bufRecette.courant();
   AjouteTexte(module.cheminsImages, {recette.posImage, recette.lgImage}, image);
 }
@@ -43,7 +43,7 @@ std::int32_t AjouteRecette(Module1& module, const RecetteSaisie& saisie) {
   RecRecette& recette = module.bufRecette.courant();
   PoseNoms(recette, saisie);
   AjouteTexte(module.textesRecettes, {recette.posTexte, recette.lgTexte}, saisie.texte);
-  PoseImage(module, saisie.image);
+  EcritImage(module, saisie.image);
   return AjouteCourant(module.bufRecette);
 }
 
@@ -58,7 +58,7 @@ void ChangeRecette(Module1& module, std::int32_t numero, const RecetteSaisie& sa
   RecRecette& recette = module.bufRecette.courant();
   PoseNoms(recette, saisie);
   module.textesRecettes.Remplace({recette.posTexte, recette.lgTexte}, saisie.texte);
-  PoseImage(module, saisie.image);
+  EcritImage(module, saisie.image);
   module.bufRecette.EcrireCourant(numero);
 }
 

@@ -107,7 +107,7 @@ void frmRecettesAjouter::EnregistreRecette() {
   VideBoites({{titre, texte, image}});
   hote().ChoisitOnglet(ongletListe);
   liste.ComboFamilles->Choisit(indice);
-  liste.ComboRecettes->ChoisitDonnee(numero);
+  liste.ComboRecettes->ChoisitNumero(numero);
 }
 
 void frmRecettesAjouter::Efface() {

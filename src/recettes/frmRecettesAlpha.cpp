@@ -38,8 +38,8 @@ void frmRecettesAlpha::AfficheSelection() {
     return;
   }
   const ComboListe& affichees = *liste_.ComboRecettes;
-  const std::int32_t choisie = lstRecettesTri_->Donnee();
-  if (affichees.currentIndex() >= 0 && affichees.Donnee() == choisie) {
+  const std::int32_t choisie = lstRecettesTri_->NumeroChoisi();
+  if (affichees.currentIndex() >= 0 && affichees.NumeroChoisi() == choisie) {
     hote().ChoisitOnglet(ongletListe);  // on display already: nothing is read again
   } else {
     Opere(module(), [&] { hote().MontreEnregistrement(choisie); });

@@ -20,7 +20,7 @@ frmRecettesListe::frmRecettesListe(const PlaceOnglet& place)
           QStringLiteral("Cliquez sur ce bouton pour voir l'image associée à la recette"), this)) {
   Dispose();
   familles.Suit(*ComboFamilles);
-  PoseImage({});
+  RetientImage({});
   ComboFamilles->surChoix = [this] { ChoisitFamille(); };
   ComboRecettes->surChoix = [this] { AfficheRecette(); };
   connect(cmdCameraListe, &QPushButton::clicked, this, [this] { hote().cadre().MontreImage(); });
@@ -65,7 +65,7 @@ void frmRecettesListe::ChoisitFamille() {
 
 void frmRecettesListe::ChargeRecettes() {
   Opere(module(),
-        [&] { ComboRecettes->Ajoute(RecettesDeFamille(module(), ComboFamilles->Donnee())); });
+        [&] { ComboRecettes->Ajoute(RecettesDeFamille(module(), ComboFamilles->NumeroChoisi())); });
   const bool vide = ComboRecettes->entrees().empty();
   ComboRecettes->setEnabled(!vide);
   txtRecette->setEnabled(!vide);
@@ -79,9 +79,9 @@ void frmRecettesListe::ChargeRecettes() {
 
 void frmRecettesListe::AfficheRecette() {
   Opere(module(), [&] {
-    const RecetteLue lue = LitRecette(module(), ComboRecettes->Donnee());
+    const RecetteLue lue = LitRecette(module(), ComboRecettes->NumeroChoisi());
     txtRecette->PoseTexte(lue.texte);
-    PoseImage(lue.image);
+    RetientImage(lue.image);
     if (lue.imagePerdue) {
       AnnonceImagePerdue(*lue.imagePerdue);
     } else {
@@ -94,12 +94,12 @@ void frmRecettesListe::AfficheRecette() {
 void frmRecettesListe::ChoisitRecette(std::int32_t numero) {
   const RecRecette recette = LitEnregistrementRecette(module(), numero);
   // The family's own event fills its recipes.
-  ComboFamilles->ChoisitDonnee(recette.idFamille);
-  ComboRecettes->ChoisitDonnee(numero);
+  ComboFamilles->ChoisitNumero(recette.idFamille);
+  ComboRecettes->ChoisitNumero(numero);
   module().bufRecette.courant() = recette;
 }
 
-void frmRecettesListe::PoseImage(const std::string& chemin) {
+void frmRecettesListe::RetientImage(const std::string& chemin) {
   lblLaRecette->setProperty("Tag", VersQt(chemin));
   cmdCameraListe->setEnabled(!chemin.empty());
 }

@@ -40,7 +40,7 @@ class frmRecettesListe final : public PageOnglet {
   void Dispose();
   void ChargeRecettes();
   void AfficheRecette();
-  void PoseImage(const std::string& chemin);
+  void RetientImage(const std::string& chemin);
   void AnnonceImagePerdue(const std::string& chemin);
 };
 

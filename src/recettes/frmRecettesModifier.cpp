@@ -96,12 +96,12 @@ void frmRecettesModifier::ValideFamille() {
 
 void frmRecettesModifier::EnregistreFamille(const std::string& nom) {
   ExigeFamilles(module());
-  const std::int32_t numero = liste.ComboFamilles->Donnee();
-  const std::int32_t recette = liste.ComboRecettes->Donnee();  // a failure in an empty family
+  const std::int32_t numero = liste.ComboFamilles->NumeroChoisi();
+  const std::int32_t recette = liste.ComboRecettes->NumeroChoisi();  // a failure in an empty family
   RenommeFamille(module(), numero, nom);
   liste.RechargeFamilles();
-  liste.ComboFamilles->ChoisitDonnee(numero);
-  liste.ComboRecettes->ChoisitDonnee(recette);
+  liste.ComboFamilles->ChoisitNumero(numero);
+  liste.ComboRecettes->ChoisitNumero(recette);
   VaALaListe();
 }
 
@@ -135,8 +135,8 @@ bool frmRecettesModifier::TitreDejaDonne() {
     hote().Refuse("Cette recette existe déjà"_1252, titre);
     return true;
   }
-  if (!memeFamille &&
-      TitreDansAutreFamille(module(), affichees.Donnee(), familles->Donnee(), nouveau)) {
+  if (!memeFamille && TitreDansAutreFamille(module(), affichees.NumeroChoisi(),
+                                            familles->NumeroChoisi(), nouveau)) {
     hote().Refuse("Cette recette existe déjà dans cette famille"_1252, familles);
     return true;
   }
@@ -155,10 +155,10 @@ bool frmRecettesModifier::ImageRefusee() {
 }
 
 void frmRecettesModifier::EnregistreRecette() {
-  const std::int32_t numero = liste.ComboRecettes->Donnee();
+  const std::int32_t numero = liste.ComboRecettes->NumeroChoisi();
   ChangeRecette(module(), numero, Saisie());
   liste.ComboFamilles->Choisit(familles->currentIndex());
-  liste.ComboRecettes->ChoisitDonnee(numero);
+  liste.ComboRecettes->ChoisitNumero(numero);
   VaALaListe();
 }
 

@@ -21,10 +21,10 @@ frmRecettesSaisie::frmRecettesSaisie(const PlaceOnglet& place, frmRecettesListe&
       cherche(Bouton(QLatin1String(noms.cherche), QStringLiteral("I&mage..."),
                      QStringLiteral("dossier"), QStringLiteral("Rechercher une image"), this)) {
   liste.familles.Suit(*familles);
-  Rang(QString::fromUtf16(noms.legendeFamille), famille);
-  Rang(QStringLiteral("La famille de la recette"), familles);
-  Rang(QStringLiteral("Le titre de la recette"), titre);
-  contenu().setRowStretch(Rang(QStringLiteral("Le texte de la recette"), texte), 1);
+  AjouteACote(QString::fromUtf16(noms.legendeFamille), famille);
+  AjouteACote(QStringLiteral("La famille de la recette"), familles);
+  AjouteACote(QStringLiteral("Le titre de la recette"), titre);
+  contenu().setRowStretch(AjouteACote(QStringLiteral("Le texte de la recette"), texte), 1);
   const int rang = contenu().rowCount();
   contenu().addWidget(Legende(QStringLiteral("L'image associée"), image), rang, 0);
   contenu().addWidget(image, rang, 1);
@@ -45,7 +45,7 @@ void frmRecettesSaisie::ReprendIndiceFamille() {
 }
 
 RecetteSaisie frmRecettesSaisie::Saisie() const {
-  return {familles->Donnee(), titre->Texte(), texte->Texte(),
+  return {familles->NumeroChoisi(), titre->Texte(), texte->Texte(),
           module().chemins.FormeCourte(image->Texte())};
 }
 

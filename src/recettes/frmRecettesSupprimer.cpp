@@ -39,16 +39,16 @@ frmRecettesSupprimer::frmRecettesSupprimer(const PlaceOnglet& place, frmRecettes
       cmdSupprimer_(boutons().Supprime("cmdSupprimer", u"", [this] { Supprime(); })) {
   boutons().Aide("cmdAideSupprimer");
   txtTexteRecetteSupprimer_->RendLectureSeule();
-  Rang(QStringLiteral("La famille"), lblFamilleSupprimer_);
-  Rang(QStringLiteral("La famille de la recette"), lblFamilleRecetteSupprimer_);
-  Rang(QStringLiteral("Le titre de la recette"), lblTitreRecetteSupprimer_);
-  contenu().setRowStretch(Rang(QStringLiteral("Le texte de la recette"), txtTexteRecetteSupprimer_),
-                          1);
+  AjouteACote(QStringLiteral("La famille"), lblFamilleSupprimer_);
+  AjouteACote(QStringLiteral("La famille de la recette"), lblFamilleRecetteSupprimer_);
+  AjouteACote(QStringLiteral("Le titre de la recette"), lblTitreRecetteSupprimer_);
+  contenu().setRowStretch(
+      AjouteACote(QStringLiteral("Le texte de la recette"), txtTexteRecetteSupprimer_), 1);
 }
 
 void frmRecettesSupprimer::MontreFamille() {
   const ComboListe& familles = *liste_.ComboFamilles;
-  const bool protegee = familles.currentIndex() < 0 || familles.Donnee() == numeroProtege;
+  const bool protegee = familles.currentIndex() < 0 || familles.NumeroChoisi() == numeroProtege;
   lblFamilleSupprimer_->setText(VersQt(liste_.ComboFamilles->Texte()));
   lblFamilleSupprimer_->setToolTip(
       protegee ? QStringLiteral("Cette famille de recettes ne peut être supprimée") : QString());
@@ -58,7 +58,7 @@ void frmRecettesSupprimer::MontreFamille() {
 void frmRecettesSupprimer::MontreRecette() {
   const ComboListe& recettes = *liste_.ComboRecettes;
   const bool vide = !recettes.isEnabled() || recettes.currentIndex() < 0;
-  const bool protegee = !vide && recettes.Donnee() == numeroProtege;
+  const bool protegee = !vide && recettes.NumeroChoisi() == numeroProtege;
   lblFamilleRecetteSupprimer_->setText(vide ? QString() : VersQt(liste_.ComboFamilles->Texte()));
   lblTitreRecetteSupprimer_->setText(vide ? QString() : VersQt(liste_.ComboRecettes->Texte()));
   txtTexteRecetteSupprimer_->PoseTexte(vide ? std::string{} : liste_.txtRecette->Texte());
@@ -100,14 +100,14 @@ void frmRecettesSupprimer::Supprime() {
 }
 
 void frmRecettesSupprimer::SupprimeFamilleAffichee() {
-  SupprimeFamille(module(), liste_.ComboFamilles->Donnee(), liste_.ComboRecettes->entrees());
+  SupprimeFamille(module(), liste_.ComboFamilles->NumeroChoisi(), liste_.ComboRecettes->entrees());
   liste_.RechargeFamilles();
   hote().ChoisitOnglet(ongletListe);
   liste_.ComboFamilles->Choisit(0);
 }
 
 void frmRecettesSupprimer::SupprimeRecetteAffichee() {
-  SupprimeRecette(module(), liste_.ComboRecettes->Donnee());
+  SupprimeRecette(module(), liste_.ComboRecettes->NumeroChoisi());
   hote().ChoisitOnglet(ongletListe);
   liste_.ChoisitFamille();
 }

@@ -55,15 +55,15 @@ void BarresCadre::BatitMenus(QMainWindow& cadre) {
   for (const EntreeMenu& ligne : EntreesMenus()) {
     const QString nom = QString::fromLatin1(ligne.nom);
     const QString titre = QString::fromUtf16(ligne.titre);
-    if (ligne.rang == Rang::menu || ligne.rang == Rang::sousMenu) {
-      QMenu*& nouveau = ligne.rang == Rang::menu ? menu : sousMenu;
-      Q_ASSERT(ligne.rang == Rang::menu || menu != nullptr);  // the table opens with a menu
-      nouveau = ligne.rang == Rang::menu ? cadre.menuBar()->addMenu(titre) : menu->addMenu(titre);
+    if (ligne.genre == Genre::menu || ligne.genre == Genre::sousMenu) {
+      QMenu*& nouveau = ligne.genre == Genre::menu ? menu : sousMenu;
+      Q_ASSERT(ligne.genre == Genre::menu || menu != nullptr);  // the table opens with a menu
+      nouveau = ligne.genre == Genre::menu ? cadre.menuBar()->addMenu(titre) : menu->addMenu(titre);
       nouveau->setObjectName(nom);
       menus_.emplace(nom, nouveau);
       continue;
     }
-    if (ligne.rang == Rang::separateur) {
+    if (ligne.genre == Genre::separateur) {
       Q_ASSERT(menu != nullptr);
       menu->addSeparator()->setObjectName(nom);
       continue;
@@ -73,7 +73,7 @@ void BarresCadre::BatitMenus(QMainWindow& cadre) {
     entree->setCheckable(ligne.cochable);
     entree->setShortcut(QKeySequence(QString::fromLatin1(ligne.touche)));
     entree->setIcon(IconeDe(QString::fromLatin1(ligne.icone)));
-    QMenu* parent = ligne.rang == Rang::sousEntree ? sousMenu : menu;
+    QMenu* parent = ligne.genre == Genre::sousEntree ? sousMenu : menu;
     Q_ASSERT(parent != nullptr);
     parent->addAction(entree);
     entrees_.emplace(nom, entree);
@@ -92,7 +92,7 @@ void BarresCadre::BatitBarre(QMainWindow& cadre) {
   barre_->setContextMenuPolicy(Qt::PreventContextMenu);
   barre_->setIconSize(QSize(tailleIcones, tailleIcones));
   cadre.addToolBar(barre_);
-  for (const BoutonBarre& ligne : BoutonsBarre()) {
+  for (const BoutonBarre& ligne : BarreOutils()) {
     if (ligne.debutGroupe) {
       barre_->addSeparator();
     }

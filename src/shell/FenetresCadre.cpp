@@ -57,7 +57,7 @@ void FenetresCadre::Montre(EntreeVue vue) {
     return;
   }
   module_.services.pointeur.Sablier();
-  QMdiSubWindow* fenetre = Ouverte(vue);
+  QMdiSubWindow* fenetre = TrouveOuverte(vue);
   if (fenetre == nullptr) {
     fenetre = &Cree(vue);
   } else if (fenetre->isMinimized()) {
@@ -72,7 +72,7 @@ void FenetresCadre::Montre(EntreeVue vue) {
 
 void FenetresCadre::MontreMaximisee(EntreeVue vue) {
   Montre(vue);
-  Ouverte(vue)->showMaximized();
+  TrouveOuverte(vue)->showMaximized();
 }
 
 void FenetresCadre::VaA(QMdiSubWindow& fenetre) {
@@ -82,7 +82,7 @@ void FenetresCadre::VaA(QMdiSubWindow& fenetre) {
   place_.setActiveSubWindow(&fenetre);
 }
 
-QMdiSubWindow* FenetresCadre::Ouverte(EntreeVue vue) const {
+QMdiSubWindow* FenetresCadre::TrouveOuverte(EntreeVue vue) const {
   const auto trouvee = ouvertes_.find(vue);
   return trouvee == ouvertes_.end() ? nullptr : qobject_cast<QMdiSubWindow*>(trouvee->second);
 }
@@ -112,7 +112,7 @@ void FenetresCadre::AppliqueTaille(EntreeVue vue, QMdiSubWindow& fenetre) {
 
 void FenetresCadre::DechargeTout() {
   for (const LigneFenetre& ligne : lignes) {
-    if (QMdiSubWindow* fenetre = Ouverte(ligne.vue)) {
+    if (QMdiSubWindow* fenetre = TrouveOuverte(ligne.vue)) {
       static_cast<FenetreEnfant*>(fenetre->widget())->Decharge();
       ouvertes_.erase(ligne.vue);
     }

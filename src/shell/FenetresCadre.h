@@ -37,7 +37,7 @@ class FenetresCadre {
   [[nodiscard]] FenetreEnfant* active() const { return suivi_.active(); }
 
  private:
-  [[nodiscard]] QMdiSubWindow* Ouverte(EntreeVue vue) const;
+  [[nodiscard]] QMdiSubWindow* TrouveOuverte(EntreeVue vue) const;
   QMdiSubWindow& Cree(EntreeVue vue);
   void AppliqueTaille(EntreeVue vue, QMdiSubWindow& fenetre);
   void VaA(QMdiSubWindow& fenetre);

@@ -5,7 +5,7 @@
 namespace gastrelle {
 namespace {
 
-using enum Rang;
+using enum Genre;
 
 constexpr std::array<EntreeMenu, 53> entrees{{
     {menu, "mnuFile", u"&Fichier"},
@@ -94,7 +94,7 @@ std::span<const EntreeMenu> EntreesMenus() {
   return entrees;
 }
 
-std::span<const BoutonBarre> BoutonsBarre() {
+std::span<const BoutonBarre> BarreOutils() {
   return boutons;
 }
 

@@ -6,7 +6,7 @@
 
 namespace gastrelle {
 
-enum class Rang : std::uint8_t {
+enum class Genre : std::uint8_t {
   menu,        ///< a menu of the bar
   entree,      ///< an entry of the menu above it
   sousMenu,    ///< a submenu of the menu above it
@@ -15,7 +15,7 @@ enum class Rang : std::uint8_t {
 };
 
 struct EntreeMenu {
-  Rang rang;
+  Genre genre;
   const char* nom;              ///< objectName
   const char16_t* titre = u"";  ///< "&" marks the access key
   const char* touche = "";      ///< shortcut, in portable text
@@ -32,6 +32,6 @@ struct BoutonBarre {
 };
 
 std::span<const EntreeMenu> EntreesMenus();
-std::span<const BoutonBarre> BoutonsBarre();
+std::span<const BoutonBarre> BarreOutils();
 
 }  // namespace gastrelle

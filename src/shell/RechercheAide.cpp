@@ -62,7 +62,7 @@ RechercheAide::RechercheAide(const FichierAide& fichier) {
 }
 
 std::vector<PageAide> RechercheAide::Cherche(const QString& texte) const {
-  const std::vector<QRegularExpression> motifs = Motifs(texte);
+  const std::vector<QRegularExpression> motifs = Expressions(texte);
   std::vector<PageAide> trouvees;
   if (motifs.empty()) {
     return trouvees;
@@ -80,7 +80,7 @@ std::vector<PageAide> RechercheAide::Cherche(const QString& texte) const {
   return trouvees;
 }
 
-std::vector<QRegularExpression> RechercheAide::Motifs(const QString& texte) {
+std::vector<QRegularExpression> RechercheAide::Expressions(const QString& texte) {
   std::vector<QRegularExpression> motifs;
   for (const QString& mot : texte.simplified().split(u' ', Qt::SkipEmptyParts)) {
     motifs.push_back(MotifDuMot(mot));

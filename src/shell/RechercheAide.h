@@ -19,7 +19,7 @@ class RechercheAide {
   [[nodiscard]] std::vector<PageAide> Cherche(const QString& texte) const;
 
   /// What finds each word of a text: "creme" also finds "Crème", "oeuf" finds "œuf".
-  [[nodiscard]] static std::vector<QRegularExpression> Motifs(const QString& texte);
+  [[nodiscard]] static std::vector<QRegularExpression> Expressions(const QString& texte);
 
  private:
   struct PageLue {

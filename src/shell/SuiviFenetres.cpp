@@ -16,7 +16,7 @@ FenetreEnfant* Contenu(QWidget* fenetre) {
 SuiviFenetres::SuiviFenetres(QMdiArea& enfants) : enfants_(enfants) {
   connect(&enfants_, &QMdiArea::subWindowActivated, this, [this](QMdiSubWindow* fenetre) {
     if (fenetre != nullptr) {
-      Passe(fenetre);
+      DonneLaMain(fenetre);
     }
   });
 }
@@ -72,10 +72,10 @@ void SuiviFenetres::Regarde() {
       visible = fenetre;
     }
   }
-  Passe(visible);
+  DonneLaMain(visible);
 }
 
-void SuiviFenetres::Passe(QMdiSubWindow* vers) {
+void SuiviFenetres::DonneLaMain(QMdiSubWindow* vers) {
   if (vers == derniere_) {
     return;
   }

@@ -23,7 +23,7 @@ class SuiviFenetres final : public QObject {
   bool eventFilter(QObject* objet, QEvent* evenement) override;
 
  private:
-  void Passe(QMdiSubWindow* vers);
+  void DonneLaMain(QMdiSubWindow* vers);
   void Regarde();
 
   QMdiArea& enfants_;

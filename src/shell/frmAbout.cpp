@@ -20,7 +20,7 @@ namespace gastrelle {
 namespace {
 
 constexpr int marge = 20;
-constexpr int tailleIcone = 96;
+constexpr int coteIcone = 96;
 constexpr int lignesAvertissement = 4;
 constexpr double agrandissement = 1.8;
 
@@ -124,11 +124,11 @@ frmAbout::frmAbout(Module1& module, QWidget* parent) : QDialog(parent), module_(
   page->setSpacing(marge / 2);
   page->addLayout(Entete());
   page->addSpacing(marge / 2);
-  page->addLayout(Liens());
+  page->addLayout(RangeeLiens());
   page->addSpacing(marge / 2);
   page->addWidget(legende);
   page->addWidget(avertissement);
-  page->addLayout(Boutons());
+  page->addLayout(RangeeBoutons());
   page->setSizeConstraint(QLayout::SetFixedSize);
 }
 
@@ -141,7 +141,7 @@ QLabel* frmAbout::Etiquette(const char* nom, const QString& texte) {
 
 QLayout* frmAbout::Entete() {
   QLabel* icone = Etiquette("picIcon", {});
-  icone->setPixmap(IconeDe(QStringLiteral("gastrelle")).pixmap(tailleIcone, tailleIcone));
+  icone->setPixmap(IconeDe(QStringLiteral("gastrelle")).pixmap(coteIcone, coteIcone));
   QLabel* titre = Etiquette("lblTitle", VersQt(titreApplication));
   QFont police = titre->font();
   police.setPointSizeF(police.pointSizeF() * agrandissement);
@@ -163,7 +163,7 @@ QLayout* frmAbout::Entete() {
   return entete;
 }
 
-QLayout* frmAbout::Liens() {
+QLayout* frmAbout::RangeeLiens() {
   auto* grille = new QGridLayout;
   grille->setHorizontalSpacing(marge);
   QLabel* internet = Etiquette("lbInfolWeb", QStringLiteral("Internet"));
@@ -188,7 +188,7 @@ void frmAbout::AjouteLien(QGridLayout& grille, const char* nomLegende, const QSt
   grille.addWidget(texte, rang, 1, Qt::AlignLeft);
 }
 
-QLayout* frmAbout::Boutons() {
+QLayout* frmAbout::RangeeBoutons() {
   QPushButton* infos =
       Bouton(QStringLiteral("cmdSysInfo"), QStringLiteral("Infos &système..."), {}, {}, this);
   QPushButton* ok = Bouton(QStringLiteral("cmdOK"), QStringLiteral("&OK"), {}, {}, this);

@@ -17,8 +17,8 @@ class frmAbout final : public QDialog {
  private:
   QLabel* Etiquette(const char* nom, const QString& texte);
   QLayout* Entete();
-  QLayout* Liens();
-  QLayout* Boutons();
+  QLayout* RangeeLiens();
+  QLayout* RangeeBoutons();
   void AjouteLien(QGridLayout& grille, const char* nomLegende, const QString& legende,
                   const char* nom, Lien lien);
   void StartSysInfo();

@@ -199,7 +199,7 @@ void frmAide::Surligne() {
   marque.setBackground(QColor(255, 224, 110));
   marque.setForeground(Qt::black);
   QList<QTextEdit::ExtraSelection> marques;
-  for (const QRegularExpression& motif : RechercheAide::Motifs(txtRecherche_->text())) {
+  for (const QRegularExpression& motif : RechercheAide::Expressions(txtRecherche_->text())) {
     QTextCursor ou(txtPage_->document());
     while (!(ou = txtPage_->document()->find(motif, ou)).isNull()) {
       marques.append({ou, marque});

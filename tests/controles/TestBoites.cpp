@@ -40,9 +40,9 @@ class MessagesAffiches : public testing::Test {
   }
 
   /// The answer to a question, which `repond` gives on its box.
-  Reponse Demande(Boutons boutons, const std::function<void(QDialog&)>& repond) {
+  Reponse Demande(Choix choix, const std::function<void(QDialog&)>& repond) {
     std::optional<Reponse> reponse;
-    AvecDialogue([&] { reponse = messages.Demande("Effacer ?", boutons); }, repond);
+    AvecDialogue([&] { reponse = messages.Demande("Effacer ?", choix); }, repond);
     return *reponse;
   }
 
@@ -116,7 +116,7 @@ TEST_F(MessagesAffiches, UneBoiteAppartientALaFenetreActive) {
 }
 
 TEST_F(MessagesAffiches, UneQuestionALeTitreEtLExclamation) {
-  Demande(Boutons::ouiNon, [](QDialog& boite) {
+  Demande(Choix::ouiNon, [](QDialog& boite) {
     EXPECT_EQ(boite.windowTitle(), "Gastrelle 2005");
     EXPECT_EQ(Boite(boite).icon(), QMessageBox::Warning);
     EXPECT_EQ(Boite(boite).textFormat(), Qt::PlainText);
@@ -125,47 +125,46 @@ TEST_F(MessagesAffiches, UneQuestionALeTitreEtLExclamation) {
 }
 
 TEST_F(MessagesAffiches, UneQuestionSansAnnulerAOuiEtNonNonParDefaut) {
-  Demande(Boutons::ouiNon, [](QDialog& boite) {
+  Demande(Choix::ouiNon, [](QDialog& boite) {
     EXPECT_THAT(Titres(Boite(boite)), UnorderedElementsAre("Oui", "Non"));
     EXPECT_EQ(Boite(boite).defaultButton()->text(), "Non");
   });
 }
 
 TEST_F(MessagesAffiches, UneQuestionAvecAnnulerEnATroisNonParDefaut) {
-  Demande(Boutons::ouiNonAnnuler, [](QDialog& boite) {
+  Demande(Choix::ouiNonAnnuler, [](QDialog& boite) {
     EXPECT_THAT(Titres(Boite(boite)), UnorderedElementsAre("Oui", "Non", "Annuler"));
     EXPECT_EQ(Boite(boite).defaultButton()->text(), "Non");
   });
 }
 
 TEST_F(MessagesAffiches, EntreeRepondNon) {
-  for (const Boutons boutons : {Boutons::ouiNon, Boutons::ouiNonAnnuler}) {
-    EXPECT_EQ(Demande(boutons, [](QDialog& boite) { Touche(boite, Qt::Key_Return); }),
-              Reponse::non);
+  for (const Choix choix : {Choix::ouiNon, Choix::ouiNonAnnuler}) {
+    EXPECT_EQ(Demande(choix, [](QDialog& boite) { Touche(boite, Qt::Key_Return); }), Reponse::non);
   }
 }
 
 TEST_F(MessagesAffiches, EchappeRepondNonOuAnnule) {
   const auto echappe = [](QDialog& boite) { Touche(boite, Qt::Key_Escape); };
-  EXPECT_EQ(Demande(Boutons::ouiNon, echappe), Reponse::non);
-  EXPECT_EQ(Demande(Boutons::ouiNonAnnuler, echappe), Reponse::annuler);
+  EXPECT_EQ(Demande(Choix::ouiNon, echappe), Reponse::non);
+  EXPECT_EQ(Demande(Choix::ouiNonAnnuler, echappe), Reponse::annuler);
 }
 
 TEST_F(MessagesAffiches, LaCroixRepondCommeEchappe) {
   const auto ferme = [](QDialog& boite) { boite.close(); };
-  EXPECT_EQ(Demande(Boutons::ouiNon, ferme), Reponse::non);
-  EXPECT_EQ(Demande(Boutons::ouiNonAnnuler, ferme), Reponse::annuler);
+  EXPECT_EQ(Demande(Choix::ouiNon, ferme), Reponse::non);
+  EXPECT_EQ(Demande(Choix::ouiNonAnnuler, ferme), Reponse::annuler);
 }
 
 TEST_F(MessagesAffiches, ChaqueBoutonRepondCeQuIlDit) {
   const auto presse = [](const char* titre) {
     return [titre](QDialog& boite) { Presse(boite, titre); };
   };
-  EXPECT_EQ(Demande(Boutons::ouiNon, presse("Oui")), Reponse::oui);
-  EXPECT_EQ(Demande(Boutons::ouiNon, presse("Non")), Reponse::non);
-  EXPECT_EQ(Demande(Boutons::ouiNonAnnuler, presse("Oui")), Reponse::oui);
-  EXPECT_EQ(Demande(Boutons::ouiNonAnnuler, presse("Non")), Reponse::non);
-  EXPECT_EQ(Demande(Boutons::ouiNonAnnuler, presse("Annuler")), Reponse::annuler);
+  EXPECT_EQ(Demande(Choix::ouiNon, presse("Oui")), Reponse::oui);
+  EXPECT_EQ(Demande(Choix::ouiNon, presse("Non")), Reponse::non);
+  EXPECT_EQ(Demande(Choix::ouiNonAnnuler, presse("Oui")), Reponse::oui);
+  EXPECT_EQ(Demande(Choix::ouiNonAnnuler, presse("Non")), Reponse::non);
+  EXPECT_EQ(Demande(Choix::ouiNonAnnuler, presse("Annuler")), Reponse::annuler);
 }
 
 TEST(PointeurAffiche, LeSablierPoseDeuxFoisSEnleveDUnCoup) {

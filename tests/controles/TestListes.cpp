@@ -118,7 +118,7 @@ TEST_F(Combo, MontrerNeDeclencheRien) {
   combo.Ajoute({{"a", 1}, {"b", 2}});
   combo.Montre(0);
   EXPECT_TRUE(choix.empty());
-  EXPECT_EQ(combo.Donnee(), 1);
+  EXPECT_EQ(combo.NumeroChoisi(), 1);
 }
 
 TEST_F(Combo, ChoisirHorsDeLaListeNeChoisitRien) {
@@ -128,13 +128,13 @@ TEST_F(Combo, ChoisirHorsDeLaListeNeChoisitRien) {
 }
 
 TEST_F(Combo, LaDonneeSansChoixEstUnePanne) {
-  EXPECT_THROW((void)combo.Donnee(), ErreurExecution);
+  EXPECT_THROW((void)combo.NumeroChoisi(), ErreurExecution);
 }
 
 TEST_F(Combo, UneDonneeIntrouvableEstUnePanneDeFichier) {
   combo.Ajoute(Liste{{"a", 1}});
   try {
-    combo.ChoisitDonnee(2);
+    combo.ChoisitNumero(2);
     FAIL();
   } catch (const ErreurExecution& erreur) {
     EXPECT_EQ(erreur.numero(), 53);
@@ -222,7 +222,7 @@ TEST_F(Choix, ChoisitParLeProgrammeLaSourisEtLeClavier) {
                     liste.visualRect(liste.model()->index(1, 0)).center());
   QTest::keyClick(&liste, Qt::Key_Down);
   EXPECT_EQ(choix, 3);
-  EXPECT_EQ(liste.Donnee(), 3);
+  EXPECT_EQ(liste.NumeroChoisi(), 3);
 }
 
 TEST_F(Choix, LeDoubleClicSurUneEntreeSeul) {
@@ -236,7 +236,7 @@ TEST_F(Choix, LeDoubleClicSurUneEntreeSeul) {
 }
 
 TEST_F(Choix, SansChoixLaDonneeEstUnePanne) {
-  EXPECT_THROW((void)liste.Donnee(), ErreurExecution);
+  EXPECT_THROW((void)liste.NumeroChoisi(), ErreurExecution);
 }
 
 }  // namespace

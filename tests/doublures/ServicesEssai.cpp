@@ -13,7 +13,7 @@ void MessagesEssai::Informe(std::string_view texte, Icone icone, std::string_vie
   }
 }
 
-Reponse MessagesEssai::Demande(std::string_view texte, Boutons /*boutons*/) {
+Reponse MessagesEssai::Demande(std::string_view texte, Choix /*choix*/) {
   questions.emplace_back(texte);
   if (reponses.empty()) {
     ADD_FAILURE() << "question inattendue : " << VersUtf8(texte);

@@ -29,7 +29,7 @@ struct MessageVu {
 class MessagesEssai final : public Messages {
  public:
   void Informe(std::string_view texte, Icone icone, std::string_view titre) override;
-  Reponse Demande(std::string_view texte, Boutons boutons) override;
+  Reponse Demande(std::string_view texte, Choix choix) override;
   void Bip() override { ++bips; }
 
   std::vector<MessageVu> vus;

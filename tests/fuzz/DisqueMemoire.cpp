@@ -105,7 +105,7 @@ void DisqueMemoire::Renommer(const std::string& nom, const std::string& nouveau)
 
 void DisqueMemoire::CreerDossier(const std::string& nom) {
   Compte();
-  Exige(dossiers_.insert(nom).second, Panne::accesFichier);
+  Exige(dossiers_.insert(nom).second, Panne::accesChemin);
 }
 
 void DisqueMemoire::SupprimerDossier(const std::string& nom) {

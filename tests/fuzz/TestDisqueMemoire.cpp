@@ -88,7 +88,7 @@ TEST(DisqueMemoire, UnDossierNEstPasUnFichier) {
   disque.CreerDossier("IMAGE");
   EXPECT_TRUE(disque.DossierExiste("IMAGE"));
   EXPECT_FALSE(disque.Existe("IMAGE"));
-  Echoue(Panne::accesFichier, [&] { disque.CreerDossier("IMAGE"); });
+  Echoue(Panne::accesChemin, [&] { disque.CreerDossier("IMAGE"); });
   disque.SupprimerDossier("IMAGE");
   EXPECT_FALSE(disque.DossierExiste("IMAGE"));
 }

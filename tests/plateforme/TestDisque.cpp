@@ -132,8 +132,8 @@ TEST_F(DisqueReel, NeTrouveRienSousUnFichierSansEchouer) {
 
 TEST_F(DisqueReel, EchoueQuandLaRechercheElleMemeEchoue) {
   const std::string tropLong(5000, 'n');
-  EXPECT_EQ(PanneDe([&] { (void)disque.Existe(tropLong); }), Panne::accesFichier);
-  EXPECT_EQ(PanneDe([&] { (void)disque.DossierExiste(tropLong); }), Panne::accesFichier);
+  EXPECT_EQ(PanneDe([&] { (void)disque.Existe(tropLong); }), Panne::accesChemin);
+  EXPECT_EQ(PanneDe([&] { (void)disque.DossierExiste(tropLong); }), Panne::accesChemin);
 }
 
 TEST_F(DisqueReel, NommeLesFichiersDUnDossierDuProgramme) {
@@ -146,7 +146,7 @@ TEST_F(DisqueReel, NommeLesFichiersDUnDossierDuProgramme) {
 
 TEST_F(DisqueReel, NOuvrePasUnDossierNiSousUnDossierQuiManque) {
   disque.CreerDossier("D");
-  EXPECT_EQ(PanneDe([&] { (void)disque.Ouvrir("D"); }), Panne::accesFichier);
+  EXPECT_EQ(PanneDe([&] { (void)disque.Ouvrir("D"); }), Panne::accesChemin);
   EXPECT_EQ(PanneDe([&] { (void)disque.Ouvrir("ABSENT/X"); }), Panne::fichierIntrouvable);
   dossier.Ecrit("X", "");
   EXPECT_EQ(PanneDe([&] { (void)disque.Ouvrir("X/Y"); }), Panne::cheminIntrouvable);
@@ -170,13 +170,13 @@ TEST_F(DisqueReel, RenommeEtEchoueSurUnFichierQuiManque) {
 TEST_F(DisqueReel, CreeUnDossierUneSeuleFois) {
   disque.CreerDossier("D");
   EXPECT_TRUE(std::filesystem::is_directory(dossier.chemin() / "D"));
-  EXPECT_EQ(PanneDe([&] { disque.CreerDossier("D"); }), Panne::accesFichier);
+  EXPECT_EQ(PanneDe([&] { disque.CreerDossier("D"); }), Panne::accesChemin);
 }
 
 TEST_F(DisqueReel, NEnleveQuUnDossierVide) {
   disque.CreerDossier("D");
   dossier.Ecrit("D/X", "");
-  EXPECT_EQ(PanneDe([&] { disque.SupprimerDossier("D"); }), Panne::accesFichier);
+  EXPECT_EQ(PanneDe([&] { disque.SupprimerDossier("D"); }), Panne::accesChemin);
   dossier.Supprime("D/X");
   disque.SupprimerDossier("D");
   EXPECT_FALSE(dossier.A("D"));
@@ -214,7 +214,7 @@ TEST_F(DisqueReel, GardeLaCibleQuandLaSourceNeSOuvrePas) {
 
 TEST_F(DisqueReel, NeLaissePasDeCopieQuandLaLectureEchoue) {
   disque.CreerDossier("D");
-  EXPECT_EQ(PanneDe([&] { disque.Copier("D", "Y"); }), Panne::accesFichier);
+  EXPECT_EQ(PanneDe([&] { disque.Copier("D", "Y"); }), Panne::accesChemin);
   EXPECT_FALSE(dossier.A("Y"));
 }
 

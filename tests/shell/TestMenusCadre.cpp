@@ -109,7 +109,7 @@ TEST_F(MenusDuCadre, UneCleMalEcriteEchoueAussitot) {
 
 TEST_F(MenusDuCadre, ChaqueBoutonVautSonEntree) {
   QStringList vus;
-  for (const gastrelle::BoutonBarre& bouton : BoutonsBarre()) {
+  for (const gastrelle::BoutonBarre& bouton : BarreOutils()) {
     vus << QString::fromLatin1(bouton.cle) + u'=' + QString::fromLatin1(bouton.entree);
   }
   EXPECT_EQ(

@@ -92,7 +92,7 @@ class Fenetres : public FenetreEssai<FenetreEnfant>,
   static QStringList ClesDuCadre() {
     QStringList cles;
     for (const EntreeMenu& entree : EntreesMenus()) {
-      if (entree.rang == Rang::menu) {
+      if (entree.genre == Genre::menu) {
         cles << QKeySequence::mnemonic(QString::fromUtf16(entree.titre)).toString();
       }
     }
