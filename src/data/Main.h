@@ -1,5 +1,4 @@
-// The start of the program, before any window exists, and the part of its end that concerns the
-// data.
+// The start of the program, before any window exists.
 #pragma once
 
 #include <functional>
