@@ -10,15 +10,15 @@ namespace {
 std::unique_ptr<Fichier> Neuf(AccesFichiers& disque, Donnees fichier) {
   const std::string nom = NomFabrique(fichier);
   if (disque.Existe(nom)) {
-    disque.Supprimer(nom);
+    disque.Supprime(nom);
   }
-  return disque.Ouvrir(nom);
+  return disque.Ouvre(nom);
 }
 
 /// A new pool: its signature alone.
 struct ReserveNeuve {
   ReserveNeuve(AccesFichiers& disque, Donnees fichier) : place(Neuf(disque, fichier)) {
-    place->Ecrire(0, Signature(fichier));
+    place->Ecrit(0, Signature(fichier));
   }
 
   void Range(ReferenceTexte reference, const std::string& texte) {
@@ -40,12 +40,12 @@ void EcritCatalogue(AccesFichiers& disque, Donnees fichier, const Entrees& entre
   T entete;
   entete.actif = Tenu<std::int16_t>(static_cast<std::int64_t>(entrees.size()));
   NomOuSignature(entete) = Signature(fichier);
-  enregistrements.Ecrire(1, entete);
+  enregistrements.Ecrit(1, entete);
   for (const auto& entree : entrees) {
     T e;
     e.actif = vivant;
     remplit(e, entree);
-    enregistrements.Ecrire(enregistrements.ProchainNumero(), e);
+    enregistrements.Ecrit(enregistrements.ProchainNumero(), e);
   }
 }
 
@@ -104,7 +104,7 @@ void EcritMillesimes(AccesFichiers& disque, const Catalogues& c) {
     std::size_t i = 0;
     std::apply([&](const auto&... champ) { ((e.*champ.membre = annee[i++]), ...); },
                champs<RecMillesime>);
-    annees.Ecrire(annees.ProchainNumero(), e);
+    annees.Ecrit(annees.ProchainNumero(), e);
   }
 }
 
@@ -131,7 +131,7 @@ void EcritCourses(AccesFichiers& disque) {
   const std::unique_ptr<Fichier> place = Neuf(disque, Donnees::GLMC);
   FichierEnregistrements<LigneRayon> lignes(place);
   for (std::int64_t i = 1; i <= rayons; ++i) {
-    lignes.Ecrire(i, {});
+    lignes.Ecrit(i, {});
   }
   const ReserveNeuve textes(disque, Donnees::GLMCN);
 }

@@ -40,9 +40,9 @@ QString Adresse(Lien lien) {
       .toString();
 }
 
-void OuvreLien(Module1& module, Lien lien) {
-  const QString cible = QString::fromUtf16(Ligne(lien).schema) + Adresse(lien);
-  if (module.services.association.Ouvrir(cible.toStdString()) == Ouverture::aucuneAssociation) {
+void OuvreLien(Module1& module, Lien lien, const QString& adresse) {
+  const QString cible = QString::fromUtf16(Ligne(lien).schema) + adresse;
+  if (module.services.association.Ouvre(cible.toStdString()) == Ouverture::aucuneAssociation) {
     module.services.messages.Informe(Ligne(lien).sansAssociation, Icone::information);
   }
 }

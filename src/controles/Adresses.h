@@ -20,8 +20,12 @@ enum class Lien : std::uint8_t {
 /// section "Adresses", or its default.
 QString Adresse(Lien lien);
 
-/// Asks the system to open a link; tells the user when no application is associated with it. All
-/// other failures are ignored.
-void OuvreLien(Module1& module, Lien lien);
+/// Asks the system to open an address as it opens that link; tells the user when no application is
+/// associated with it. All other failures are ignored.
+void OuvreLien(Module1& module, Lien lien, const QString& adresse);
+/// The same, of the link's own address.
+inline void OuvreLien(Module1& module, Lien lien) {
+  OuvreLien(module, lien, Adresse(lien));
+}
 
 }  // namespace gastrelle

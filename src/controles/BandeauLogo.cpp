@@ -1,7 +1,6 @@
 #include "controles/BandeauLogo.h"
 
 #include <QHBoxLayout>
-#include <QVBoxLayout>
 
 #include "controles/Icones.h"
 

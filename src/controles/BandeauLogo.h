@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include <QLabel>
+#include <QVBoxLayout>
 #include <QWidget>
 
 #include "controles/ZoneTexte.h"

@@ -41,8 +41,7 @@ class PiedBoutons final : public QHBoxLayout {
     return Ajoute(nom, u"Affi&cher", "valider", infobulle, action);
   }
   QPushButton* Aide(const char* nom);
-
- private:
+  /// Any other button.
   QPushButton* Ajoute(const char* nom, const char16_t* titre, const char* icone,
                       const char16_t* infobulle, const Action& action);
 };

@@ -38,16 +38,16 @@ void ComboListe::Choisit(int indice) {
   }
 }
 
-int ComboListe::IndiceDe(std::int32_t donnee) const {
-  const std::optional<int> indice = modele_.IndiceDe(donnee);
+int ComboListe::IndiceDe(std::int32_t numero) const {
+  const std::optional<int> indice = modele_.IndiceDe(numero);
   if (!indice) {
     throw ErreurExecution(Panne::fichierIntrouvable);
   }
   return *indice;
 }
 
-void ComboListe::ChoisitNumero(std::int32_t donnee) {
-  Choisit(IndiceDe(donnee));
+void ComboListe::ChoisitNumero(std::int32_t numero) {
+  Choisit(IndiceDe(numero));
 }
 
 bool ComboListe::ContientTexte(std::string_view texte, int sauf) const {
@@ -87,7 +87,7 @@ std::int32_t ComboListe::NumeroChoisi() const {
   if (currentIndex() < 0) {
     throw ErreurExecution(Panne::appelIncorrect);
   }
-  return entrees()[static_cast<std::size_t>(currentIndex())].donnee;
+  return entrees()[static_cast<std::size_t>(currentIndex())].numero;
 }
 
 std::string ComboListe::Texte() const {

@@ -19,8 +19,8 @@ class ComboListe final : public QComboBox {
 
   /// Chooses an entry from code and fires `surChoix`. An index outside the list chooses nothing.
   void Choisit(int indice);
-  /// Chooses the entry that bears `donnee`; raises error 53 if none does.
-  void ChoisitNumero(std::int32_t donnee);
+  /// Chooses the entry that bears `numero`; raises error 53 if none does.
+  void ChoisitNumero(std::int32_t numero);
   /// Chooses without firing: for lists whose choice has no event.
   void Montre(int indice);
 
@@ -31,8 +31,8 @@ class ComboListe final : public QComboBox {
   [[nodiscard]] const Liste& entrees() const { return modele_.entrees(); }
   [[nodiscard]] ModeleListe& modele() { return modele_; }
 
-  /// Index of the first entry that bears `donnee`; raises error 53 if none does.
-  [[nodiscard]] int IndiceDe(std::int32_t donnee) const;
+  /// Index of the first entry that bears `numero`; raises error 53 if none does.
+  [[nodiscard]] int IndiceDe(std::int32_t numero) const;
   /// True if an entry, but for the one at `sauf`, reads like `texte`, case and outer blanks
   /// ignored.
   [[nodiscard]] bool ContientTexte(std::string_view texte, int sauf = -1) const;

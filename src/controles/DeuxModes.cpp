@@ -14,7 +14,7 @@ DeuxModes::DeuxModes(const std::array<QRadioButton*, 2>& options, Mode premier, 
     Choisit(*debut);
   }
   PermetControles();
-  QObject::connect(options_[0], &QRadioButton::toggled, options_[0], [this] { Bascule(); });
+  QObject::connect(options_[0], &QRadioButton::toggled, options_[0], [this] { Applique(); });
 }
 
 void DeuxModes::PermetControles() {
@@ -25,7 +25,7 @@ void DeuxModes::PermetControles() {
   }
 }
 
-void DeuxModes::Bascule() {
+void DeuxModes::Applique() {
   const Mode& choisi = present();
   VideBoites(choisi.vides);
   if (choisi.surChoix) {

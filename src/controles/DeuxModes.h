@@ -15,14 +15,14 @@ struct Mode {
   std::vector<QWidget*> controles{};  ///< enabled in this mode, disabled in the other
   QWidget* focus = nullptr;           ///< takes the focus when the mode is chosen; null: it stays
   std::vector<QWidget*> vides{};      ///< text boxes, emptied when the mode is chosen
-  std::function<void()> surChoix{};   ///< what else the page does then
+  std::function<void()> surChoix{};   ///< what else the page does, after that
 };
 
 /// Modes are counted as their options are, 0 and 1.
 class DeuxModes {
  public:
-  /// `debut` is the mode at the start, chosen without any of what a choice brings; none: no option
-  /// is set, and the mode is the second one.
+  /// `debut` is the mode at the start: its controls are enabled, nothing else of what a choice
+  /// brings is done; none: no option is set, and the mode is the second one.
   DeuxModes(const std::array<QRadioButton*, 2>& options, Mode premier, Mode second,
             std::optional<std::size_t> debut = 1);
   DeuxModes(const DeuxModes&) = delete;
@@ -34,11 +34,12 @@ class DeuxModes {
   [[nodiscard]] bool Permis(std::size_t mode) const { return options_.at(mode)->isEnabled(); }
   /// Chooses a mode, as a click would; nothing happens if it is the present one.
   void Choisit(std::size_t mode) { options_.at(mode)->setChecked(true); }
+  /// What the choice of the present mode brings.
+  void Applique();
   /// The focus to the control of the present mode.
   void RendFocus() const;
 
  private:
-  void Bascule();
   void PermetControles();
   [[nodiscard]] const Mode& present() const { return modes_[premier() ? 0 : 1]; }
 

@@ -24,13 +24,13 @@ void FenetreEnfant::Active() {
     return;
   }
   cadre_.Coche(description_.vue);
-  EtatCadre();
+  RegleCadre();
   module_.services.pointeur.Normal();
 }
 
 void FenetreEnfant::Desactive() {
-  if (!EstReduite()) {
-    AvantSortie();
+  if (!EstReduite() && !isHidden()) {  // a closed one has been left already
+    RangeSaisie();
     RazCadre();
   }
 }
@@ -52,9 +52,7 @@ void FenetreEnfant::Decharge() {
 
 void FenetreEnfant::closeEvent(QCloseEvent* evenement) {
   const bool cachee = description_.seCache && !parProgramme_;
-  if (!cachee) {
-    AvantSortie();
-  }
+  RangeSaisie();
   RazCadre();
   evenement->setAccepted(!cachee);
   if (cachee) {
@@ -62,7 +60,7 @@ void FenetreEnfant::closeEvent(QCloseEvent* evenement) {
   }
 }
 
-void FenetreEnfant::EtatCadre() {
+void FenetreEnfant::RegleCadre() {
   cadre_.PoseContexte(Contexte(description_.vue));
 }
 

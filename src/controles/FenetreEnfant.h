@@ -39,9 +39,9 @@ class FenetreEnfant : public QWidget {
 
   /// What the window shows now.
   [[nodiscard]] virtual Vue VueCourante() const { return {}; }
-  /// What is being typed is put away: the window's content is about to be printed, or the window to
-  /// be left or unloaded.
-  virtual void AvantSortie() {}
+  /// Puts away what is being typed. It is asked when the window is left, closed or unloaded, also
+  /// twice in a row, and by whoever is going to print what the window shows.
+  virtual void RangeSaisie() {}
   /// Shows a record, as a user who chooses it would. Raises error 53 if the window's list doesn't
   /// hold it.
   virtual void MontreEnregistrement(std::int32_t numero);
@@ -67,7 +67,7 @@ class FenetreEnfant : public QWidget {
 
  protected:
   /// Brings the frame into the state that the window wants.
-  virtual void EtatCadre();
+  virtual void RegleCadre();
   /// Brings the frame into the state without this window.
   void RazCadre();
   /// True once the program itself unloads the window.

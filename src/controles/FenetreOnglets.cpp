@@ -15,7 +15,7 @@ FenetreOnglets::FenetreOnglets(Module1& module, Cadre& cadre, const DescriptionF
     : FenetreEnfant(module, cadre, description),
       jeu_(jeu),
       TabStrip1_(new QTabBar(this)),
-      cadres_(new QStackedWidget(this)),
+      pile_(new QStackedWidget(this)),
       pages_(jeu.onglets.size()) {
   constexpr int marge = 6;
   TabStrip1_->setObjectName(QStringLiteral("TabStrip1"));
@@ -30,7 +30,7 @@ FenetreOnglets::FenetreOnglets(Module1& module, Cadre& cadre, const DescriptionF
   fond->setContentsMargins(marge, marge, marge, marge);
   fond->setSpacing(0);
   fond->addWidget(TabStrip1_);
-  fond->addWidget(cadres_, 1);
+  fond->addWidget(pile_, 1);
   connect(TabStrip1_, &QTabBar::currentChanged, this,
           [this](int indice) { ClicOnglet(indice + 1); });
 }
@@ -41,7 +41,7 @@ Onglet& FenetreOnglets::Page(int onglet) {
   if (page == nullptr) {
     const DescriptionOnglet& sienne = jeu_.onglets[rang];
     page = &sienne.cree({*this, onglet, sienne, description().logo, jeu_.ligneDuLogo});
-    cadres_->addWidget(page);
+    pile_->addWidget(page);
   }
   return *page;
 }
@@ -72,7 +72,7 @@ void FenetreOnglets::ClicOnglet(int onglet) {
 }
 
 void FenetreOnglets::MontrePage(int onglet) {
-  cadres_->setCurrentWidget(&Page(onglet));
+  pile_->setCurrentWidget(&Page(onglet));
   ongletCourant_ = onglet;
   EtatOnglet();
 }

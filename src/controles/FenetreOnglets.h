@@ -87,7 +87,7 @@ class FenetreOnglets : public FenetreEnfant {
   [[nodiscard]] virtual std::string Annonce() = 0;
 
   /// True if a click may lead from the tab on display to another. A refusal is told here: with the
-  /// sound, unless a window has another way. It may select another tab before it answers.
+  /// sound, unless a window has another way, which may select some other tab before it refuses.
   [[nodiscard]] virtual bool PermetOnglet(int vers);
 
   /// The page of a tab (from 1), made at the first call.
@@ -97,7 +97,7 @@ class FenetreOnglets : public FenetreEnfant {
   /// does.
   void MontreDansListe(ComboListe& combo, std::int32_t numero);
 
-  void EtatCadre() override { EtatOnglet(); }
+  void RegleCadre() override { EtatOnglet(); }
 
  private:
   void ClicOnglet(int onglet);
@@ -105,7 +105,7 @@ class FenetreOnglets : public FenetreEnfant {
 
   const JeuOnglets& jeu_;
   QTabBar* TabStrip1_;
-  QStackedWidget* cadres_;
+  QStackedWidget* pile_;
   std::vector<Onglet*> pages_;  ///< by tab; null as long as nobody entered it
   int ongletCourant_ = ongletListe;
 };

@@ -27,7 +27,7 @@ std::int32_t ListeChoix::NumeroChoisi() const {
   if (indice() < 0) {
     throw ErreurExecution(Panne::appelIncorrect);
   }
-  return entrees()[static_cast<std::size_t>(indice())].donnee;
+  return entrees()[static_cast<std::size_t>(indice())].numero;
 }
 
 void ListeChoix::currentChanged(const QModelIndex& courant, const QModelIndex& precedent) {

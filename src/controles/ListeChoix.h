@@ -13,12 +13,12 @@ class ListeChoix final : public QListView {
  public:
   ListeChoix(const QString& nom, Ordre ordre, QWidget* parent = nullptr);
 
-  /// Runs at every choice, the user's and the program's.
+  /// Runs when the choice moves to another entry, by the user or the program.
   std::function<void()> surChoix;
   /// Runs on a double click on an entry.
   std::function<void()> surDoubleClic;
 
-  /// Chooses an entry from code and fires `surChoix`. An index outside the list chooses nothing.
+  /// Chooses an entry from code. An index outside the list chooses nothing.
   void Choisit(int indice);
 
   void Ajoute(Liste nouvelles) { modele_.Ajoute(std::move(nouvelles)); }

@@ -21,7 +21,7 @@ QVariant ModeleListe::data(const QModelIndex& index, int role) const {
     case Qt::EditRole:
       return VersQt(entree.texte);
     case Qt::UserRole:
-      return entree.donnee;
+      return entree.numero;
     default:
       return {};
   }
@@ -72,10 +72,10 @@ void ModeleListe::Vide() {
   endResetModel();
 }
 
-std::optional<int> ModeleListe::IndiceDe(std::int32_t donnee) const {
+std::optional<int> ModeleListe::IndiceDe(std::int32_t numero) const {
   const auto trouvee =
       std::find_if(entrees_.begin() + static_cast<std::ptrdiff_t>(epinglees_), entrees_.end(),
-                   [&](const EntreeListe& e) { return e.donnee == donnee; });
+                   [&](const EntreeListe& e) { return e.numero == numero; });
   if (trouvee == entrees_.end()) {
     return std::nullopt;
   }

@@ -31,7 +31,7 @@ class ModeleListe final : public QAbstractListModel {
   void Vide();
 
   /// Index of the first entry that bears this item data, from the first one on.
-  [[nodiscard]] std::optional<int> IndiceDe(std::int32_t donnee) const;
+  [[nodiscard]] std::optional<int> IndiceDe(std::int32_t numero) const;
 
  private:
   Ordre ordre_;

@@ -57,14 +57,6 @@ std::array<QRadioButton*, 2> PageOnglet::Options(const char* nom, const char16_t
   return {premier, second};
 }
 
-QLabel* PageOnglet::Legende(const QString& texte, QWidget* pour) {
-  auto* legende = new QLabel(texte, this);
-  legende->setBuddy(pour);
-  QString nom = texte;
-  pour->setAccessibleName(nom.remove(u'&'));
-  return legende;
-}
-
 int PageOnglet::AjouteACote(const QString& legende, QWidget* controle) {
   constexpr int jusquAuBord = -1;
   const int rang = contenu_->count() == 0 ? 0 : contenu_->rowCount();

@@ -5,11 +5,11 @@
 #include <array>
 
 #include <QGridLayout>
-#include <QLabel>
 #include <QRadioButton>
 
 #include "controles/Boutons.h"
 #include "controles/FenetreOnglets.h"
+#include "controles/Legende.h"
 
 namespace gastrelle {
 
@@ -33,9 +33,6 @@ class PageOnglet : public Onglet {
   /// are named `nom` with their index.
   std::array<QRadioButton*, 2> Options(const char* nom, const char16_t* premiere,
                                        const char16_t* seconde);
-
-  /// A caption above or beside a control, which its access key and screen readers follow.
-  QLabel* Legende(const QString& texte, QWidget* pour);
 
   /// The next row of the page: a caption, and a control beside it up to the page's right edge.
   /// Returns the number of the row.

@@ -175,10 +175,8 @@ void LigneTexte::keyPressEvent(QKeyEvent* touche) {
 void LigneTexte::contextMenuEvent(QContextMenuEvent* evenement) {
   QMenu* menu = createStandardContextMenu();
   menu->setAttribute(Qt::WA_DeleteOnClose);
-  const QString touche =
-      u'\t' + QKeySequence(QKeySequence::Paste).toString(QKeySequence::NativeText);
   for (QAction* action : menu->actions()) {
-    if (action->text().endsWith(touche)) {
+    if (action->text().section(u'\t', 0, 0) == QLineEdit::tr("&Paste")) {
       action->disconnect(this);
       connect(action, &QAction::triggered, this, &LigneTexte::paste);
     }

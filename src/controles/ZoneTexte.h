@@ -27,8 +27,6 @@ class ZoneTexte final : public QPlainTextEdit {
   /// The text with CR LF line breaks (Windows-1252).
   [[nodiscard]] std::string Texte() const;
 
-  /// Takes the blanks off both ends of the text.
-  void RogneTexte() { PoseTexte(std::string(Rogne(Texte()))); }
   /// Read-only boxes look it, and stay selectable.
   void RendLectureSeule();
 
@@ -50,7 +48,6 @@ class LigneTexte final : public QLineEdit {
 
   void PoseTexte(std::string_view texte);
   [[nodiscard]] std::string Texte() const;
-  void RogneTexte() { PoseTexte(std::string(Rogne(Texte()))); }
   void RendLectureSeule();
 
   /// Puts a text in the place of the selection. It is composed before its length counts. Whatever
@@ -68,6 +65,15 @@ class LigneTexte final : public QLineEdit {
 
   int limite_;
 };
+
+/// Takes the blanks off both ends of a box's text. A box without any isn't touched: cursor and undo
+/// steps stay.
+template <class Boite>
+void RogneTexte(Boite& boite) {
+  if (const std::string texte = boite.Texte(); Rogne(texte) != texte) {
+    boite.PoseTexte(Rogne(texte));
+  }
+}
 
 /// True if a text box (of one line or several) holds nothing.
 [[nodiscard]] bool EstVide(const QWidget& boite);

@@ -15,7 +15,7 @@ namespace gastrelle {
 template <class T>
 std::int32_t AjouteCourant(FichierEnregistrements<T>& fichier) {
   const std::int32_t numero = fichier.ProchainNumero();
-  fichier.EcrireCourant(numero);
+  fichier.EcritCourant(numero);
   fichier.Compte(+1);
   return numero;
 }
@@ -24,9 +24,9 @@ std::int32_t AjouteCourant(FichierEnregistrements<T>& fichier) {
 /// then holds it; the header isn't touched.
 template <class T>
 void Efface(FichierEnregistrements<T>& fichier, std::int32_t numero) {
-  fichier.LireCourant(numero);
+  fichier.LitCourant(numero);
   fichier.courant().actif = supprime;
-  fichier.EcrireCourant(numero);
+  fichier.EcritCourant(numero);
 }
 
 /// Clears a record's live flag, then counts it off.

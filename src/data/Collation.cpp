@@ -116,7 +116,7 @@ std::uint64_t Tranche(const Rang& rang, std::size_t depuis) {
   return tranche;
 }
 
-/// Puts entries with the same base letters in order, but for those that one has more.
+/// The order of entries whose base letters are the same but for zeros at the end.
 bool Precede(const Rang& a, const Rang& b, const Liste& liste) {
   if (a.longueur != b.longueur) {
     return a.longueur < b.longueur;

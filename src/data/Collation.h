@@ -13,7 +13,7 @@ namespace gastrelle {
 /// record number of the entry.
 struct EntreeListe {
   std::string texte;
-  std::int32_t donnee = 0;
+  std::int32_t numero = 0;
 
   bool operator==(const EntreeListe&) const = default;
 };

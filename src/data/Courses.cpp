@@ -8,20 +8,20 @@ void ChargeCourses(Module1& module) {
   Reserve textes(module.Place(Donnees::GLMCN));
   for (std::size_t i = 0; i < nombreRayons; ++i) {
     LigneRayon& ligne = module.indexRayon[i];
-    module.bufRayon.Lire(static_cast<std::int64_t>(i) + 1, ligne);
+    module.bufRayon.Lit(static_cast<std::int64_t>(i) + 1, ligne);
     module.texteRayon[i].clear();
     if (ligne.posTexte != 0) {
-      module.texteRayon[i] = textes.Lire(ligne.posTexte, ligne.lgTexte);
+      module.texteRayon[i] = textes.Lit(ligne.posTexte, ligne.lgTexte);
     }
   }
 }
 
 void SauveCourses(Module1& module) {
   try {
-    module.services.disque.Supprimer(Nom(Donnees::GLMCN));
+    module.services.disque.Supprime(Nom(Donnees::GLMCN));
     Ouvre(module, Donnees::GLMCN);
     Reserve textes(module.Place(Donnees::GLMCN));
-    Ouvert(module.Place(Donnees::GLMCN)).Ecrire(0, Signature(Donnees::GLMCN));
+    Ouvert(module.Place(Donnees::GLMCN)).Ecrit(0, Signature(Donnees::GLMCN));
     for (std::size_t i = 0; i < nombreRayons; ++i) {
       LigneRayon& ligne = module.indexRayon[i];
       const ReferenceTexte reference{ligne.posTexte, ligne.lgTexte};
@@ -30,7 +30,7 @@ void SauveCourses(Module1& module) {
       } else {
         textes.Ajoute(reference, module.texteRayon[i]);
       }
-      module.bufRayon.Ecrire(static_cast<std::int64_t>(i) + 1, ligne);
+      module.bufRayon.Ecrit(static_cast<std::int64_t>(i) + 1, ligne);
     }
   } catch (const ErreurExecution&) {
     return;  // the aisle texts that weren't written are lost, and the end of the program goes on

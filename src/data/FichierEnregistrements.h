@@ -47,22 +47,22 @@ class FichierEnregistrements {
   [[nodiscard]] T& courant() { return tampon_[1]; }
 
   /// Reads record `numero`; what lies beyond the end of the file reads as zeros.
-  void Lire(std::int64_t numero, T& vers) {
+  void Lit(std::int64_t numero, T& vers) {
     std::array<char, longueurEnregistrement<T>> octets{};
-    Ouvert(place_).Lire(Decalage(numero), octets);
+    Ouvert(place_).Lit(Decalage(numero), octets);
     Decode(vers, octets.data());
   }
 
   /// Writes record `numero`, also beyond the end.
-  void Ecrire(std::int64_t numero, const T& depuis) {
+  void Ecrit(std::int64_t numero, const T& depuis) {
     const auto octets = Code(depuis);
-    Ouvert(place_).Ecrire(Decalage(numero), {octets.data(), octets.size()});
+    Ouvert(place_).Ecrit(Decalage(numero), {octets.data(), octets.size()});
   }
 
-  void LireCourant(std::int64_t numero) { Lire(numero, courant()); }
-  void EcrireCourant(std::int64_t numero) { Ecrire(numero, courant()); }
-  void LireEntete() { Lire(1, entete()); }
-  void EcrireEntete() { Ecrire(1, entete()); }
+  void LitCourant(std::int64_t numero) { Lit(numero, courant()); }
+  void EcritCourant(std::int64_t numero) { Ecrit(numero, courant()); }
+  void LitEntete() { Lit(1, entete()); }
+  void EcritEntete() { Ecrit(1, entete()); }
 
   /// Size of the file in whole records.
   [[nodiscard]] std::int64_t Nombre() { return Ouvert(place_).Longueur() / longueur; }
@@ -76,7 +76,7 @@ class FichierEnregistrements {
   /// Counts `ecart` live records more in the header and writes it.
   void Compte(std::int64_t ecart) {
     nbActifs() = Tenu<std::int16_t>(nbActifs() + ecart);
-    EcrireEntete();
+    EcritEntete();
   }
 
   /// Reads the records from 2 to the last, one after the other, into `dans`, and calls
@@ -88,7 +88,7 @@ class FichierEnregistrements {
     for (std::int64_t numero = 2; numero <= dernier; ++numero) {
       const auto rang = static_cast<std::size_t>((numero - 2) % parBloc);
       if (rang == 0) {
-        LireBloc(numero, std::min<std::int64_t>(parBloc, dernier - numero + 1), bloc);
+        LitBloc(numero, std::min<std::int64_t>(parBloc, dernier - numero + 1), bloc);
       }
       Decode(dans, bloc.data() + rang * static_cast<std::size_t>(longueur));
       if (!visite(Tenu<std::int32_t>(numero))) {
@@ -120,7 +120,7 @@ class FichierEnregistrements {
     }
     nbActifs() = vus;
     try {
-      EcrireEntete();
+      EcritEntete();
     } catch (const ErreurExecution&) {
       return;  // the next scan that reaches the disk repairs it
     }
@@ -136,9 +136,9 @@ class FichierEnregistrements {
     return (numero - 1) * longueur;
   }
 
-  void LireBloc(std::int64_t premier, std::int64_t nombre, std::vector<char>& bloc) {
+  void LitBloc(std::int64_t premier, std::int64_t nombre, std::vector<char>& bloc) {
     bloc.assign(static_cast<std::size_t>(nombre * longueur), '\0');
-    Ouvert(place_).Lire(Decalage(premier), bloc);
+    Ouvert(place_).Lit(Decalage(premier), bloc);
   }
 
   const std::unique_ptr<Fichier>& place_;

@@ -5,9 +5,9 @@
 
 namespace gastrelle {
 
-/// The name of a record, or its title.
+/// A title: of a recipe, a family of them, a cheese, a menu, a tip.
 inline constexpr int limiteNom = 128;
-/// A text of a pool; of a longer one, only so much is shown.
+/// A text of a pool.
 inline constexpr std::int32_t limiteTexte = 30000;
 
 }  // namespace gastrelle

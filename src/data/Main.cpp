@@ -28,15 +28,15 @@ void RestaureFichier(Module1& module, Donnees fichier, std::string& chemin) {
     module.services.processus.Termine(1);
   }
   chemin = module.chemins.De(Nom(fichier));
-  module.services.disque.Copier(fabrique, Nom(fichier));
+  module.services.disque.Copie(fabrique, Nom(fichier));
 }
 
 /// The header of the recipes keeps the day on which they came from the factory.
 void DateRestauration(Module1& module) {
   RecRecette entete;
-  module.bufRecette.Lire(1, entete);
+  module.bufRecette.Lit(1, entete);
   entete.idFamille = NumeroJour(module.services.horloge.Aujourdhui());
-  module.bufRecette.Ecrire(1, entete);
+  module.bufRecette.Ecrit(1, entete);
 }
 
 void PrepareFichier(Module1& module, Donnees fichier, std::string& chemin) {
@@ -78,9 +78,9 @@ void ChargePreferences(Module1& module) {
   try {
     Ouvre(module, Donnees::GLPREF);
     if (presente) {
-      module.prefs.Lire(1, enVigueur);
+      module.prefs.Lit(1, enVigueur);
     } else {
-      module.prefs.Ecrire(1, enVigueur);
+      module.prefs.Ecrit(1, enVigueur);
     }
   } catch (const ErreurExecution&) {
     enVigueur = {};
@@ -104,7 +104,7 @@ void Main(Module1& module, bool dejaEnCours, const std::function<void()>& montre
   PrepareDonnees(module);
   ChargePreferences(module);
   if (!DossierExiste(module, dossierImages)) {
-    module.services.disque.CreerDossier(std::string(dossierImages));
+    module.services.disque.CreeDossier(std::string(dossierImages));
   }
   montreCadre();
 }

@@ -20,7 +20,7 @@ bool Trouve(Recherche&& recherche) {
 void VerifieCompteEtSignature(Module1& module, Donnees fichier) {
   module.AvecCatalogue(fichier, [&](auto& catalogue) {
     const LigneCatalogue& ligne = Ligne(fichier);
-    catalogue.LireEntete();
+    catalogue.LitEntete();
     if (catalogue.nbActifs() < ligne.moindre) {
       throw ErreurExecution(Panne::fichierIntrouvable);
     }
@@ -37,7 +37,7 @@ void VerifieCompteEtSignature(Module1& module, Donnees fichier) {
 void VerifiePremiersOctets(Module1& module, Donnees fichier) {
   const std::string_view attendu = Signature(fichier);
   std::string lu(attendu.size(), ' ');
-  lu.resize(Ouvert(module.Place(fichier)).Lire(0, lu));
+  lu.resize(Ouvert(module.Place(fichier)).Lit(0, lu));
   if (lu != attendu) {
     throw ErreurExecution(Panne::fichierIntrouvable);
   }
@@ -109,7 +109,7 @@ bool ImageExiste(Module1& module, std::string_view chemin) {
 }
 
 void Ouvre(Module1& module, Donnees fichier) {
-  module.Place(fichier) = module.services.disque.Ouvrir(Nom(fichier));
+  module.Place(fichier) = module.services.disque.Ouvre(Nom(fichier));
 }
 
 void VerifieEntete(Module1& module, Donnees fichier) {

@@ -6,7 +6,7 @@
 
 namespace gastrelle {
 
-std::string Reserve::Lire(std::int32_t position, std::int32_t longueur, std::int32_t limite) {
+std::string Reserve::Lit(std::int32_t position, std::int32_t longueur, std::int32_t limite) {
   if (position == 0) {
     return {};
   }
@@ -21,12 +21,12 @@ std::string Reserve::Lire(std::int32_t position, std::int32_t longueur, std::int
   const std::int64_t reste = std::max<std::int64_t>(0, Longueur() - debut);
   std::string texte(static_cast<std::size_t>(std::min<std::int64_t>({longueur, limite, reste})),
                     ' ');
-  texte.resize(Ouvert(place_).Lire(debut, texte));
+  texte.resize(Ouvert(place_).Lit(debut, texte));
   return texte;
 }
 
 void Reserve::Ajoute(ReferenceTexte reference, std::string_view texte) {
-  Ecrire(reference, Longueur() + 1, texte);
+  Ecrit(reference, Longueur() + 1, texte);
 }
 
 void Reserve::Remplace(ReferenceTexte reference, std::string_view texte) {
@@ -35,17 +35,17 @@ void Reserve::Remplace(ReferenceTexte reference, std::string_view texte) {
   } else if (static_cast<std::int64_t>(texte.size()) > reference.longueur) {
     Ajoute(reference, texte);
   } else {
-    Ecrire(reference, reference.position, texte);
+    Ecrit(reference, reference.position, texte);
   }
 }
 
-void Reserve::Ecrire(ReferenceTexte reference, std::int64_t position, std::string_view texte) {
+void Reserve::Ecrit(ReferenceTexte reference, std::int64_t position, std::string_view texte) {
   reference.position = Tenu<std::int32_t>(position);
   reference.longueur = Tenu<std::int32_t>(static_cast<std::int64_t>(texte.size()));
   if (position < 1) {
     throw ErreurExecution(Panne::numeroEnregistrement);
   }
-  Ouvert(place_).Ecrire(position - 1, texte);
+  Ouvert(place_).Ecrit(position - 1, texte);
 }
 
 std::int64_t Reserve::Longueur() {

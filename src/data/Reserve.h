@@ -33,8 +33,8 @@ class Reserve {
 
   /// The first `limite` bytes of a text, or what the file holds of them. Throws for a position
   /// below 1 or a negative length.
-  [[nodiscard]] std::string Lire(std::int32_t position, std::int32_t longueur,
-                                 std::int32_t limite = sansLimite);
+  [[nodiscard]] std::string Lit(std::int32_t position, std::int32_t longueur,
+                                std::int32_t limite = sansLimite);
 
   /// Puts a non-empty text at the end of the pool; the reference is set before the bytes are
   /// written.
@@ -48,7 +48,7 @@ class Reserve {
   [[nodiscard]] std::int64_t Longueur();
 
  private:
-  void Ecrire(ReferenceTexte reference, std::int64_t position, std::string_view texte);
+  void Ecrit(ReferenceTexte reference, std::int64_t position, std::string_view texte);
 
   const std::unique_ptr<Fichier>& place_;
 };

@@ -35,11 +35,11 @@ std::string LitFiche(Module1& module, const FichiersFiches& fichiers, std::int32
   ExigeFiches(module, fichiers);
   ExigeFichier(module, fichiers.textes);
   auto& tampon = module.*fichiers.tampon;
-  tampon.LireCourant(numero);
+  tampon.LitCourant(numero);
   const RecFiche& fiche = tampon.courant();
   return fiche.posTexte < 1
              ? std::string{}
-             : (module.*fichiers.reserve).Lire(fiche.posTexte, fiche.lgTexte, limiteTexte);
+             : (module.*fichiers.reserve).Lit(fiche.posTexte, fiche.lgTexte, limiteTexte);
 }
 
 std::int32_t AjouteFiche(Module1& module, const FichiersFiches& fichiers, std::string_view titre,
@@ -61,7 +61,7 @@ void ChangeFiche(Module1& module, const FichiersFiches& fichiers, std::int32_t n
   (module.*fichiers.reserve).Remplace(Texte(fiche), texte);
   fiche.actif = vivant;
   fiche.titre = titre;
-  tampon.EcrireCourant(numero);
+  tampon.EcritCourant(numero);
 }
 
 void SupprimeFiche(Module1& module, const FichiersFiches& fichiers, std::int32_t numero) {

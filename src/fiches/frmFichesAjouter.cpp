@@ -20,12 +20,12 @@ void frmFichesAjouter::Entre() {
 }
 
 void frmFichesAjouter::Valide() {
-  titre->RogneTexte();
+  RogneTexte(*titre);
   if (EstVide(*titre)) {
     hote().Refuse(description.sansTitreAjouter, titre);
     return;
   }
-  texte->RogneTexte();
+  RogneTexte(*texte);
   const std::string nouveau = titre->Texte();
   const std::int32_t numero = AjouteFiche(module(), description.fichiers, nouveau, texte->Texte());
   liste.combo->Ajoute({nouveau, numero});

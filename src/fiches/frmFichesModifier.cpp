@@ -19,7 +19,7 @@ void frmFichesModifier::Entre() {
 }
 
 void frmFichesModifier::Valide() {
-  titre->RogneTexte();
+  RogneTexte(*titre);
   if (EstVide(*titre)) {
     hote().Refuse(description.sansTitreModifier, nullptr);
     titre->PoseTexte(liste.combo->Texte());
@@ -27,7 +27,7 @@ void frmFichesModifier::Valide() {
     return;
   }
   Opere(module(), [&] {
-    texte->RogneTexte();
+    RogneTexte(*texte);
     const std::int32_t numero = liste.combo->NumeroChoisi();
     ChangeFiche(module(), description.fichiers, numero, titre->Texte(), texte->Texte());
     liste.Recharge();

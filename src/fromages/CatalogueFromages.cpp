@@ -61,12 +61,12 @@ Liste FromagesAuLait(Module1& module, std::int16_t lait) {
 
 VueFromage LitFromage(Module1& module, std::int32_t numero) {
   ExigeFromages(module);
-  module.bufFromage.LireCourant(numero);
+  module.bufFromage.LitCourant(numero);
   const RecFromage& fromage = module.bufFromage.courant();
   VueFromage lu;
   if (fromage.posTexte > 0) {
     ExigeFichier(module, Donnees::GLF2);
-    lu.notes = module.textesFromages.Lire(fromage.posTexte, fromage.lgTexte);
+    lu.notes = module.textesFromages.Lit(fromage.posTexte, fromage.lgTexte);
   }
   lu.nom = Rogne(fromage.nomFromage.brut());
   lu.region = Rogne(fromage.regionFromage.brut());
@@ -89,7 +89,7 @@ void ChangeFromage(Module1& module, std::int32_t numero, const FromageSaisi& sai
   RecFromage& fromage = module.bufFromage.courant();
   module.textesFromages.Remplace(Notes(fromage), saisi.notes);
   PoseChamps(fromage, saisi);
-  module.bufFromage.EcrireCourant(numero);
+  module.bufFromage.EcritCourant(numero);
 }
 
 void SupprimeFromage(Module1& module, std::int32_t numero) {

@@ -22,7 +22,7 @@ void frmFromagesAjouter::Entre() {
 }
 
 void frmFromagesAjouter::Valide() {
-  txtFromage->RogneTexte();
+  RogneTexte(*txtFromage);
   if (EstVide(*txtFromage)) {
     module().services.messages.Bip();
     DonneFocus(txtFromage);
@@ -30,7 +30,7 @@ void frmFromagesAjouter::Valide() {
   }
   // The same name may be added twice: only a change looks for it.
   Opere(module(), [&] {
-    const FromageSaisi saisi = Saisi();
+    const FromageSaisi saisi = Saisie();
     const std::int32_t numero = AjouteFromage(module(), saisi);
     liste_.ComboFromages->Ajoute(EntreeListe{saisi.nom, numero});
     hote().MontreEnregistrement(numero);

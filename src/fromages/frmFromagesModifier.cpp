@@ -23,7 +23,7 @@ void frmFromagesModifier::Entre() {
 }
 
 void frmFromagesModifier::Valide() {
-  txtFromage->RogneTexte();
+  RogneTexte(*txtFromage);
   const std::string nom = txtFromage->Texte();
   if (nom.empty()) {
     hote().Refuse("Il faut donner un nom au fromage."_1252, nullptr);
@@ -37,7 +37,7 @@ void frmFromagesModifier::Valide() {
       return;
     }
     const std::int32_t numero = liste_.ComboFromages->NumeroChoisi();
-    ChangeFromage(module(), numero, Saisi());
+    ChangeFromage(module(), numero, Saisie());
     liste_.Recharge();
     hote().MontreEnregistrement(numero);
   });

@@ -30,9 +30,9 @@ frmFromagesSaisie::frmFromagesSaisie(const PlaceOnglet& place, const QString& su
   Dispose({txtFromage, txtRegion, ComboLait, ComboPremierMois, ComboDernierMois, txtNotes});
 }
 
-FromageSaisi frmFromagesSaisie::Saisi() {
-  txtRegion->RogneTexte();
-  txtNotes->RogneTexte();
+FromageSaisi frmFromagesSaisie::Saisie() {
+  RogneTexte(*txtRegion);
+  RogneTexte(*txtNotes);
   return {txtFromage->Texte(),     txtRegion->Texte(),      Code(*ComboLait),
           Code(*ComboPremierMois), Code(*ComboDernierMois), txtNotes->Texte()};
 }

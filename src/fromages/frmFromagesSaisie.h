@@ -14,7 +14,7 @@ class frmFromagesSaisie : public frmFromagesPage {
   frmFromagesSaisie(const PlaceOnglet& place, const QString& suffixe);
 
   /// Trims the region and the notes in their boxes; answers all that was entered.
-  [[nodiscard]] FromageSaisi Saisi();
+  [[nodiscard]] FromageSaisi Saisie();
   /// Shows the codes of a milk and of two months.
   void MontreCodes(std::int16_t lait, std::int16_t premierMois, std::int16_t dernierMois);
 

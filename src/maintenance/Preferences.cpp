@@ -13,7 +13,7 @@ void Ecrit(Module1& module) {
     // The open file would still take the write, but nobody would find it again.
     throw ErreurExecution(Panne::fichierIntrouvable);
   }
-  module.prefs.EcrireCourant(1);
+  module.prefs.EcritCourant(1);
 }
 
 }  // namespace

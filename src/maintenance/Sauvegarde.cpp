@@ -14,10 +14,10 @@ bool CopieSecurite(Module1& module) {
       fichier.reset();
     }
     if (!DossierExiste(module, dossier)) {
-      disque.CreerDossier(dossier);
+      disque.CreeDossier(dossier);
     }
     for (const Donnees fichier : {Donnees::GLR1, Donnees::GLR2, Donnees::GLR3, Donnees::GLR4}) {
-      disque.Copier(Nom(fichier), dossier + "/" + Nom(fichier));
+      disque.Copie(Nom(fichier), dossier + "/" + Nom(fichier));
     }
     return true;
   } catch (const ErreurExecution&) {

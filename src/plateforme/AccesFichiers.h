@@ -20,10 +20,10 @@ class Fichier {
 
   /// Reads into `tampon` from byte `decalage` (counted from 0). Returns the number of bytes read,
   /// which is below the size of `tampon` only at the end of the file.
-  virtual std::size_t Lire(std::int64_t decalage, std::span<char> tampon) = 0;
+  virtual std::size_t Lit(std::int64_t decalage, std::span<char> tampon) = 0;
 
   /// Writes all of `octets` at byte `decalage` (counted from 0); the file grows as needed.
-  virtual void Ecrire(std::int64_t decalage, std::string_view octets) = 0;
+  virtual void Ecrit(std::int64_t decalage, std::string_view octets) = 0;
 
   /// Length in bytes, as it stands now.
   virtual std::int64_t Longueur() = 0;
@@ -48,13 +48,13 @@ class AccesFichiers {
   [[nodiscard]] virtual std::string CheminEntier(const std::string& nom) const = 0;
 
   /// Opens for reading and writing; a file that isn't there is created empty.
-  virtual std::unique_ptr<Fichier> Ouvrir(const std::string& nom) = 0;
+  virtual std::unique_ptr<Fichier> Ouvre(const std::string& nom) = 0;
   /// Copies a file over another. When it fails, the other stands as it was.
-  virtual void Copier(const std::string& source, const std::string& cible) = 0;
-  virtual void Supprimer(const std::string& nom) = 0;
-  virtual void Renommer(const std::string& nom, const std::string& nouveau) = 0;
-  virtual void CreerDossier(const std::string& nom) = 0;
-  virtual void SupprimerDossier(const std::string& nom) = 0;
+  virtual void Copie(const std::string& source, const std::string& cible) = 0;
+  virtual void Supprime(const std::string& nom) = 0;
+  virtual void Renomme(const std::string& nom, const std::string& nouveau) = 0;
+  virtual void CreeDossier(const std::string& nom) = 0;
+  virtual void SupprimeDossier(const std::string& nom) = 0;
 };
 
 }  // namespace gastrelle

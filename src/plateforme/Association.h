@@ -20,13 +20,13 @@ class Association {
 
   /// `cible` is an absolute path or an address with its scheme, in UTF-8. Returns at once; never
   /// throws.
-  virtual Ouverture Ouvrir(const std::string& cible) = 0;
+  virtual Ouverture Ouvre(const std::string& cible) = 0;
 };
 
 /// GIO's application look-up on Linux, the shell on Windows.
 class AssociationSysteme final : public Association {
  public:
-  Ouverture Ouvrir(const std::string& cible) override;
+  Ouverture Ouvre(const std::string& cible) override;
 };
 
 }  // namespace gastrelle

@@ -42,7 +42,7 @@ Texte Adresse(const Gio& gio, const std::string& cible) {
 
 }  // namespace
 
-Ouverture AssociationSysteme::Ouvrir(const std::string& cible) {
+Ouverture AssociationSysteme::Ouvre(const std::string& cible) {
   static const Gio gio;
   if (!gio.bibliotheque.presente()) {
     return Ouverture::aucuneAssociation;

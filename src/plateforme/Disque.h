@@ -15,12 +15,12 @@ class Disque final : public AccesFichiers {
   bool DossierExiste(const std::string& nom) override;
   bool ExisteAilleurs(const std::string& chemin) override;
   [[nodiscard]] std::string CheminEntier(const std::string& nom) const override;
-  std::unique_ptr<Fichier> Ouvrir(const std::string& nom) override;
-  void Copier(const std::string& source, const std::string& cible) override;
-  void Supprimer(const std::string& nom) override;
-  void Renommer(const std::string& nom, const std::string& nouveau) override;
-  void CreerDossier(const std::string& nom) override;
-  void SupprimerDossier(const std::string& nom) override;
+  std::unique_ptr<Fichier> Ouvre(const std::string& nom) override;
+  void Copie(const std::string& source, const std::string& cible) override;
+  void Supprime(const std::string& nom) override;
+  void Renomme(const std::string& nom, const std::string& nouveau) override;
+  void CreeDossier(const std::string& nom) override;
+  void SupprimeDossier(const std::string& nom) override;
 
  private:
   [[nodiscard]] std::filesystem::path Chemin(const std::string& nom) const;

@@ -90,11 +90,11 @@ class FichierPosix final : public Fichier {
   explicit FichierPosix(const std::filesystem::path& chemin)
       : descripteur_(::open(chemin.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0666)) {}
 
-  std::size_t Lire(std::int64_t decalage, std::span<char> tampon) override {
+  std::size_t Lit(std::int64_t decalage, std::span<char> tampon) override {
     return LitOctets(descripteur_, decalage, tampon);
   }
 
-  void Ecrire(std::int64_t decalage, std::string_view octets) override {
+  void Ecrit(std::int64_t decalage, std::string_view octets) override {
     EcritOctets(descripteur_, decalage, octets);
   }
 
@@ -144,11 +144,11 @@ std::string Disque::CheminEntier(const std::string& nom) const {
   return Chemin(nom).string();
 }
 
-std::unique_ptr<Fichier> Disque::Ouvrir(const std::string& nom) {
+std::unique_ptr<Fichier> Disque::Ouvre(const std::string& nom) {
   return std::make_unique<FichierPosix>(Chemin(nom));
 }
 
-void Disque::Copier(const std::string& source, const std::string& cible) {
+void Disque::Copie(const std::string& source, const std::string& cible) {
   // The old file stands until the new one is whole.
   const std::filesystem::path provisoire = Chemin(cible + "~");
   try {
@@ -160,19 +160,19 @@ void Disque::Copier(const std::string& source, const std::string& cible) {
   }
 }
 
-void Disque::Supprimer(const std::string& nom) {
+void Disque::Supprime(const std::string& nom) {
   Exige(::unlink(Chemin(nom).c_str()));
 }
 
-void Disque::Renommer(const std::string& nom, const std::string& nouveau) {
+void Disque::Renomme(const std::string& nom, const std::string& nouveau) {
   Exige(std::rename(Chemin(nom).c_str(), Chemin(nouveau).c_str()));
 }
 
-void Disque::CreerDossier(const std::string& nom) {
+void Disque::CreeDossier(const std::string& nom) {
   Exige(::mkdir(Chemin(nom).c_str(), 0777));
 }
 
-void Disque::SupprimerDossier(const std::string& nom) {
+void Disque::SupprimeDossier(const std::string& nom) {
   Exige(::rmdir(Chemin(nom).c_str()));
 }
 

@@ -20,7 +20,7 @@ constexpr std::array<TextePanne, 10> textes{{
     {Panne::disquePlein, "Disque plein"},
     {Panne::numeroEnregistrement, "Num\xE9ro d'enregistrement incorrect"},
     {Panne::permissionRefusee, "Permission refus\xE9\x65"},
-    {Panne::accesChemin, "Erreur d'acc\xE8s au fichier"},
+    {Panne::accesFichier, "Erreur d'acc\xE8s au fichier"},
     {Panne::cheminIntrouvable, "Chemin d'acc\xE8s introuvable"},
 }};
 
@@ -63,7 +63,7 @@ Panne PanneDuSysteme(int codeErrno) noexcept {
       return ligne.panne;
     }
   }
-  return Panne::accesChemin;
+  return Panne::accesFichier;
 }
 
 }  // namespace gastrelle

@@ -16,7 +16,7 @@ enum class Panne : int {
   disquePlein = 61,
   numeroEnregistrement = 63,
   permissionRefusee = 70,
-  accesChemin = 75,
+  accesFichier = 75,
   cheminIntrouvable = 76,
 };
 

@@ -51,7 +51,7 @@ void RenommeFamille(Module1& module, std::int32_t numero, std::string_view nom) 
   RecFamille& famille = module.bufFamille.courant();
   famille.actif = vivant;
   famille.nomFamille = nom;
-  module.bufFamille.EcrireCourant(numero);
+  module.bufFamille.EcritCourant(numero);
 }
 
 void ChangeRecette(Module1& module, std::int32_t numero, const RecetteSaisie& saisie) {
@@ -59,7 +59,7 @@ void ChangeRecette(Module1& module, std::int32_t numero, const RecetteSaisie& sa
   PoseNoms(recette, saisie);
   module.textesRecettes.Remplace({recette.posTexte, recette.lgTexte}, saisie.texte);
   EcritImage(module, saisie.image);
-  module.bufRecette.EcrireCourant(numero);
+  module.bufRecette.EcritCourant(numero);
 }
 
 bool TitreDansAutreFamille(Module1& module, std::int32_t familleActuelle, std::int32_t famille,
@@ -79,7 +79,7 @@ void SupprimeFamille(Module1& module, std::int32_t numero, std::span<const Entre
   ExigeFichier(module, Donnees::GLR1);
   ExigeFichier(module, Donnees::GLR2);
   for (const EntreeListe& recette : recettes) {
-    Efface(module.bufRecette, recette.donnee);
+    Efface(module.bufRecette, recette.numero);
   }
   if (!recettes.empty()) {
     module.bufRecette.Compte(-static_cast<std::int64_t>(recettes.size()));

@@ -10,13 +10,13 @@ namespace {
 void LitImage(Module1& module, std::int32_t numero, RecetteLue& lue) {
   RecRecette& recette = module.bufRecette.courant();
   const std::string chemin =
-      module.chemins.Developpe(module.cheminsImages.Lire(recette.posImage, recette.lgImage));
+      module.chemins.Developpe(module.cheminsImages.Lit(recette.posImage, recette.lgImage));
   if (ImageExiste(module, chemin)) {
     lue.image = chemin;
     return;
   }
   ReferenceTexte{recette.posImage, recette.lgImage}.Efface();
-  module.bufRecette.EcrireCourant(numero);
+  module.bufRecette.EcritCourant(numero);
   lue.imagePerdue = chemin;
 }
 
@@ -47,11 +47,11 @@ RecetteLue LitRecette(Module1& module, std::int32_t numero) {
   for (const Donnees fichier : {Donnees::GLR2, Donnees::GLR3, Donnees::GLR4}) {
     ExigeFichier(module, fichier);
   }
-  module.bufRecette.LireCourant(numero);
+  module.bufRecette.LitCourant(numero);
   const RecRecette& recette = module.bufRecette.courant();
   RecetteLue lue;
   if (recette.posTexte >= 1) {
-    lue.texte = module.textesRecettes.Lire(recette.posTexte, recette.lgTexte, limiteTexte);
+    lue.texte = module.textesRecettes.Lit(recette.posTexte, recette.lgTexte, limiteTexte);
   }
   lue.associee = recette.posImage != 0;
   if (lue.associee) {
@@ -64,7 +64,7 @@ RecRecette LitEnregistrementRecette(Module1& module, std::int32_t numero) {
   ExigeFichier(module, Donnees::GLR2);
   ExigeFichier(module, Donnees::GLR3);
   RecRecette recette;
-  module.bufRecette.Lire(numero, recette);
+  module.bufRecette.Lit(numero, recette);
   return recette;
 }
 

@@ -1,7 +1,6 @@
 #include "recettes/frmRecettesAjouter.h"
 
 #include "controles/Adresses.h"
-#include "controles/Boutons.h"
 #include "controles/Focus.h"
 #include "data/ProceduresFichiers.h"
 #include "recettes/ImageRecette.h"
@@ -65,7 +64,7 @@ void frmRecettesAjouter::ChangeImage() {
 }
 
 void frmRecettesAjouter::ValideFamille() {
-  famille->RogneTexte();
+  RogneTexte(*famille);
   const std::string nom = famille->Texte();
   if (nom.empty()) {
     hote().Refuse("Il faut saisir le nom de la nouvelle famille de recettes."_1252, famille);
@@ -85,12 +84,12 @@ void frmRecettesAjouter::ValideFamille() {
 }
 
 void frmRecettesAjouter::ValideRecette() {
-  titre->RogneTexte();
+  RogneTexte(*titre);
   if (EstVide(*titre)) {
     hote().Refuse("Il faut donner un titre à la nouvelle recette."_1252, titre);
     return;
   }
-  texte->RogneTexte();
+  RogneTexte(*texte);
   const bool avecImage = !EstVide(*image);
   ExigePourAjout(module(), !EstVide(*texte), avecImage);
   if (avecImage && !AccepteImage()) {

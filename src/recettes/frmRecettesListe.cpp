@@ -1,6 +1,5 @@
 #include "recettes/frmRecettesListe.h"
 
-#include "controles/Boutons.h"
 #include "controles/Conversion.h"
 #include "controles/Focus.h"
 #include "data/Limites.h"
@@ -15,15 +14,15 @@ frmRecettesListe::frmRecettesListe(const PlaceOnglet& place)
       ComboRecettes(new ComboListe(QStringLiteral("ComboRecettes"), Ordre::alphabetique, this)),
       txtRecette(new ZoneTexte(QStringLiteral("txtRecette"), limiteTexte, this)),
       lblLaRecette(Legende(QStringLiteral("La recette"), txtRecette)),
-      cmdCameraListe(Bouton(
-          QStringLiteral("cmdCameraListe"), QStringLiteral("I&mage"), QStringLiteral("camera"),
-          QStringLiteral("Cliquez sur ce bouton pour voir l'image associée à la recette"), this)) {
+      cmdCameraListe(
+          boutons().Ajoute("cmdCameraListe", u"I&mage", "camera",
+                           u"Cliquez sur ce bouton pour voir l'image associée à la recette",
+                           [this] { hote().cadre().MontreImage(); })) {
   Dispose();
   familles.Suit(*ComboFamilles);
   RetientImage({});
   ComboFamilles->surChoix = [this] { ChoisitFamille(); };
   ComboRecettes->surChoix = [this] { AfficheRecette(); };
-  connect(cmdCameraListe, &QPushButton::clicked, this, [this] { hote().cadre().MontreImage(); });
 }
 
 void frmRecettesListe::Dispose() {
@@ -38,7 +37,6 @@ void frmRecettesListe::Dispose() {
   contenu().setColumnStretch(0, 2);
   contenu().setColumnStretch(1, 3);
   contenu().setRowStretch(3, 1);
-  boutons().addWidget(cmdCameraListe);
   boutons().Aide("cmdAideListe");
 }
 

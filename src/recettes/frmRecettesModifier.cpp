@@ -69,7 +69,7 @@ void frmRecettesModifier::VaALaListe() {
 }
 
 void frmRecettesModifier::ValideFamille() {
-  famille->RogneTexte();
+  RogneTexte(*famille);
   const std::string nom = famille->Texte();
   const ComboListe& affichees = *liste.ComboFamilles;
   const auto refuse = [&](auto refus, std::string_view message) {
@@ -106,7 +106,7 @@ void frmRecettesModifier::EnregistreFamille(const std::string& nom) {
 }
 
 void frmRecettesModifier::ValideRecette() {
-  titre->RogneTexte();
+  RogneTexte(*titre);
   if (EstVide(*titre)) {
     hote().Refuse("Il faut donner un titre à la recette."_1252, nullptr);
     titre->PoseTexte(liste.ComboRecettes->Texte());
@@ -116,8 +116,8 @@ void frmRecettesModifier::ValideRecette() {
   if (TitreDejaDonne()) {
     return;
   }
-  texte->RogneTexte();
-  image->RogneTexte();
+  RogneTexte(*texte);
+  RogneTexte(*image);
   if (!EstVide(*image) && ImageRefusee()) {
     image->PoseTexte(liste.Image());
     DonneFocus(cherche);

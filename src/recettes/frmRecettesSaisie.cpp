@@ -1,6 +1,5 @@
 #include "recettes/frmRecettesSaisie.h"
 
-#include "controles/Boutons.h"
 #include "controles/ChoixImage.h"
 #include "data/Limites.h"
 #include "recettes/ImageRecette.h"
@@ -55,21 +54,17 @@ void frmRecettesSaisie::RefuseImage() {
 
 bool frmRecettesSaisie::AccepteImage() {
   Services& services = module().services;
-  switch (GenreDe(image->Texte())) {
-    case GenreImage::refuse:
-      RefuseImage();
-      return false;
-    case GenreImage::autre:
-      services.pointeur.Normal();
-      services.messages.Informe(
-          "Ce type de fichier ne sera pas affichable par le visualisateur interne d'images."_1252,
-          Icone::information);
-      services.pointeur.Sablier();
-      return true;
-    case GenreImage::affichable:
-      break;
+  const GenreImage genre = GenreDe(image->Texte());
+  if (genre == GenreImage::refuse) {
+    RefuseImage();
+  } else if (genre == GenreImage::autre) {
+    services.pointeur.Normal();
+    services.messages.Informe(
+        "Ce type de fichier ne sera pas affichable par le visualisateur interne d'images."_1252,
+        Icone::information);
+    services.pointeur.Sablier();
   }
-  return true;
+  return genre != GenreImage::refuse;
 }
 
 }  // namespace gastrelle

@@ -49,7 +49,7 @@ frmRecettesSupprimer::frmRecettesSupprimer(const PlaceOnglet& place, frmRecettes
 void frmRecettesSupprimer::MontreFamille() {
   const ComboListe& familles = *liste_.ComboFamilles;
   const bool protegee = familles.currentIndex() < 0 || familles.NumeroChoisi() == numeroProtege;
-  lblFamilleSupprimer_->setText(VersQt(liste_.ComboFamilles->Texte()));
+  lblFamilleSupprimer_->setText(VersQt(familles.Texte()));
   lblFamilleSupprimer_->setToolTip(
       protegee ? QStringLiteral("Cette famille de recettes ne peut être supprimée") : QString());
   modes_.Permet(famille, !protegee);
@@ -60,7 +60,7 @@ void frmRecettesSupprimer::MontreRecette() {
   const bool vide = !recettes.isEnabled() || recettes.currentIndex() < 0;
   const bool protegee = !vide && recettes.NumeroChoisi() == numeroProtege;
   lblFamilleRecetteSupprimer_->setText(vide ? QString() : VersQt(liste_.ComboFamilles->Texte()));
-  lblTitreRecetteSupprimer_->setText(vide ? QString() : VersQt(liste_.ComboRecettes->Texte()));
+  lblTitreRecetteSupprimer_->setText(vide ? QString() : VersQt(recettes.Texte()));
   txtTexteRecetteSupprimer_->PoseTexte(vide ? std::string{} : liste_.txtRecette->Texte());
   modes_.Permet(recette, !vide && !protegee);
   if (!vide) {
@@ -85,10 +85,8 @@ void frmRecettesSupprimer::Entre() {
 }
 
 void frmRecettesSupprimer::Supprime() {
-  std::string question;
-  question += "Etes-vous sûr de vouloir supprimer cette "_1252;
-  question += modes_.premier() ? "'Famille de recettes'" : "'Recette'";
-  question += " ?";
+  std::string question("Etes-vous sûr de vouloir supprimer cette "_1252);
+  question += modes_.premier() ? "'Famille de recettes' ?" : "'Recette' ?";
   if (modes_.premier()) {
     question +=
         "\r\n\r\n(Attention : toutes les recettes de cette famille seront également\r\nsupprimées.)"_1252;

@@ -46,7 +46,7 @@ std::unique_ptr<FichierAide> FichierAide::Ouvre(const QString& chemin) {
   }
   QFile fichier(chemin);
   if (!fichier.open(QIODevice::ReadOnly)) {
-    throw ErreurExecution(Panne::accesChemin);
+    throw ErreurExecution(Panne::accesFichier);
   }
   std::unique_ptr<FichierAide> aide(new FichierAide(fichier.readAll()));
   return aide->Inscrit() && aide->LitSommaire() ? std::move(aide) : nullptr;

@@ -14,7 +14,7 @@ void OuvreImageAssociee(Module1& module, const std::string& chemin) {
     module.services.messages.Informe("Fichier" + std::string(CRLF) + chemin + std::string(CRLF) +
                                          std::string("non trouvé."_1252),
                                      Icone::critique);
-  } else if (module.services.association.Ouvrir(CheminSysteme(module, chemin)) ==
+  } else if (module.services.association.Ouvre(CheminSysteme(module, chemin)) ==
              Ouverture::aucuneAssociation) {
     module.services.messages.Informe("Aucune association n'est définie pour afficher l'image"_1252,
                                      Icone::information);

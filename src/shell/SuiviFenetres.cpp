@@ -72,6 +72,7 @@ void SuiviFenetres::Regarde() {
       visible = fenetre;
     }
   }
+  enfants_.setActiveSubWindow(visible);  // left alone, the hidden one stays the active one
   DonneLaMain(visible);
 }
 

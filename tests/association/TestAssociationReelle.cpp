@@ -36,26 +36,26 @@ std::string Document(const std::string& nom, const std::string& contenu) {
 
 TEST(AssociationReelle, OuvreUneImageAvecSonProgramme) {
   const std::string image = Document("Crème brûlée.png", "\x89PNG\r\n\x1a\n");
-  EXPECT_EQ(AssociationSysteme().Ouvrir(image), Ouverture::ouverte);
+  EXPECT_EQ(AssociationSysteme().Ouvre(image), Ouverture::ouverte);
   EXPECT_EQ(CheminRecu(), image);
 }
 
 TEST(AssociationReelle, DitQuAucunProgrammeNOuvreUnTexte) {
-  EXPECT_EQ(AssociationSysteme().Ouvrir(Document("notes.txt", "texte")),
+  EXPECT_EQ(AssociationSysteme().Ouvre(Document("notes.txt", "texte")),
             Ouverture::aucuneAssociation);
 }
 
 TEST(AssociationReelle, UnProgrammeQuiManqueVautAucun) {
-  EXPECT_EQ(AssociationSysteme().Ouvrir(Document("page.html", "<html></html>")),
+  EXPECT_EQ(AssociationSysteme().Ouvre(Document("page.html", "<html></html>")),
             Ouverture::aucuneAssociation);
 }
 
 TEST(AssociationReelle, UnDocumentQuiManqueEstUnAutreEchec) {
-  EXPECT_EQ(AssociationSysteme().Ouvrir((*bureau / "absente.png").string()), Ouverture::echec);
+  EXPECT_EQ(AssociationSysteme().Ouvre((*bureau / "absente.png").string()), Ouverture::echec);
 }
 
 TEST(AssociationReelle, SansNavigateurUneAdresseNAAucuneAssociation) {
-  EXPECT_EQ(AssociationSysteme().Ouvrir("https://www.gastrelle.example/"),
+  EXPECT_EQ(AssociationSysteme().Ouvre("https://www.gastrelle.example/"),
             Ouverture::aucuneAssociation);
 }
 

@@ -91,9 +91,10 @@ TEST(Bandeau, MontreSaLigneSousLEnteteEtSonAnnonceADroite) {
 TEST(Focus, NeVaPasAUnControleCacheOuInactif) {
   QWidget page;
   QLineEdit visible(&page);
-  QLineEdit cache(&page);
+  QWidget cadre(&page);
+  QLineEdit cache(&cadre);
   QLineEdit inactif(&page);
-  cache.hide();
+  cadre.hide();
   inactif.setEnabled(false);
   page.show();
   DonneFocus(&visible);

@@ -17,7 +17,6 @@ class Modes : public testing::Test {
     for (QWidget* controle : std::initializer_list<QWidget*>{options[0], options[1], nom, texte}) {
       rangee->addWidget(controle, 0, Qt::AlignLeft);
     }
-    nom->PoseTexte("un nom");
     texte->PoseTexte("un texte");
     page.show();
     page.setFocus();
@@ -45,9 +44,16 @@ TEST_F(Modes, CommencentParLeSecondSansRienDeCeQuUnChoixAmene) {
   EXPECT_TRUE(options[1]->isChecked());
   EXPECT_FALSE(nom->isEnabled());
   EXPECT_TRUE(texte->isEnabled());
-  EXPECT_EQ(nom->Texte(), "un nom");
   EXPECT_EQ(journal, QStringList{});
-  EXPECT_FALSE(nom->hasFocus());
+}
+
+TEST_F(Modes, CommencentParLePremierSansRienDeCeQuUnChoixAmene) {
+  Cree(0);
+  EXPECT_TRUE(modes->premier());
+  EXPECT_TRUE(nom->isEnabled());
+  EXPECT_EQ(texte->Texte(), "un texte");
+  EXPECT_EQ(journal, QStringList{});
+  EXPECT_NE(page.focusWidget(), nom);
 }
 
 TEST_F(Modes, UnClicEchangeLesControlesVideEtDonneLeFocus) {
@@ -66,7 +72,6 @@ TEST_F(Modes, SansFocusDonneLeClavierResteAOptions) {
   Clique(*options[1]);
   EXPECT_EQ(journal, QStringList{"second"});
   EXPECT_EQ(page.focusWidget(), options[1]);
-  EXPECT_EQ(nom->Texte(), "un nom");
 }
 
 TEST_F(Modes, ChoisirParLeCodeAmeneCeQuUnClicAmene) {
@@ -74,6 +79,14 @@ TEST_F(Modes, ChoisirParLeCodeAmeneCeQuUnClicAmene) {
   modes->Choisit(0);
   modes->Choisit(0);
   EXPECT_EQ(journal, QStringList{"premier "});
+  EXPECT_EQ(page.focusWidget(), nom);
+}
+
+TEST_F(Modes, SAppliquentDeNouveauSurDemande) {
+  Cree(0);
+  modes->Applique();
+  EXPECT_EQ(journal, QStringList{"premier "});
+  EXPECT_EQ(texte->Texte(), "");
   EXPECT_EQ(page.focusWidget(), nom);
 }
 

@@ -17,6 +17,7 @@ namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
+using testing::SizeIs;
 
 constexpr DescriptionFenetre notes{
     .nom = "frmEssai", .titre = u"Essai", .vue = EntreeVue::mesNotes, .logo = "logo-menus"};
@@ -35,7 +36,7 @@ class frmEssai final : public FenetreEnfant {
   frmEssai(Module1& module, CadreEssai& cadre, const DescriptionFenetre& description)
       : FenetreEnfant(module, cadre, description), cadreEssai_(cadre) {}
 
-  void AvantSortie() override {
+  void RangeSaisie() override {
     ++sorties;
     quittesAvant = cadreEssai_.quittes.size();
   }
@@ -114,11 +115,19 @@ TEST_F(SansOnglet, SeFermeParSaCroixEnRangeantSaSaisie) {
   EXPECT_THAT(cadre.quittes, ElementsAre(EntreeVue::mesNotes));
 }
 
+TEST_F(SansOnglet, FermeeElleEstDejaQuittee) {
+  Ouvre();
+  contour->close();
+  fenetre->Desactive();
+  EXPECT_EQ(fenetre->sorties, 1);
+  EXPECT_THAT(cadre.quittes, SizeIs(1));
+}
+
 TEST_F(SansOnglet, SeCacheParSaCroixSiSaDescriptionLeVeut) {
   Ouvre(cachable);
   EXPECT_FALSE(contour->close());
   EXPECT_FALSE(contour->isVisible());
-  EXPECT_EQ(fenetre->sorties, 0);
+  EXPECT_EQ(fenetre->sorties, 1);
   EXPECT_THAT(cadre.quittes, ElementsAre(EntreeVue::mesNotes));
   contour->show();
   EXPECT_TRUE(fenetre->isVisible());
@@ -130,7 +139,7 @@ TEST_F(SansOnglet, LeProgrammeDechargeMemeUneFenetreCachee) {
   contour->setAttribute(Qt::WA_DeleteOnClose);
   const QPointer reste(contour);
   fenetre->Decharge();
-  EXPECT_EQ(fenetre->sorties, 1);
+  EXPECT_EQ(fenetre->sorties, 2);
   QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   EXPECT_TRUE(reste.isNull());
 }
@@ -190,6 +199,7 @@ TEST_F(SansOnglet, DemandeAvantDEffacerCeQuiEstSaisi) {
   EXPECT_EQ(zone.Texte(), "");
   const std::string question(DepuisUtf8("Effacer la saisie : êtes-sur sûr ?"));
   EXPECT_THAT(b.messages.questions, ElementsAre(question, question));
+  EXPECT_EQ(b.messages.choix, Choix::ouiNon);
 }
 
 }  // namespace

@@ -20,7 +20,7 @@ using testing::ElementsAre;
 std::vector<std::int32_t> Numeros(const Liste& entrees) {
   std::vector<std::int32_t> numeros;
   for (const EntreeListe& entree : entrees) {
-    numeros.push_back(entree.donnee);
+    numeros.push_back(entree.numero);
   }
   return numeros;
 }
@@ -223,6 +223,13 @@ TEST_F(Choix, ChoisitParLeProgrammeLaSourisEtLeClavier) {
   QTest::keyClick(&liste, Qt::Key_Down);
   EXPECT_EQ(choix, 3);
   EXPECT_EQ(liste.NumeroChoisi(), 3);
+}
+
+TEST_F(Choix, LaMemeEntreeChoisieDeNouveauNEstPasUnChoix) {
+  liste.Ajoute({{"a", 1}, {"b", 2}});
+  liste.Choisit(1);
+  liste.Choisit(1);
+  EXPECT_EQ(choix, 1);
 }
 
 TEST_F(Choix, LeDoubleClicSurUneEntreeSeul) {

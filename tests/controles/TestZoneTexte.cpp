@@ -30,6 +30,23 @@ class Boites : public testing::Test {
     QApplication::clipboard()->setText(texte);
     boite->paste();
   }
+  /// A right click, then a click on the entry that pastes. False if that can't be chosen.
+  bool ColleParLeMenu() {
+    const QPoint ou(5, 5);
+    QContextMenuEvent clicDroit(QContextMenuEvent::Mouse, ou, boite->mapToGlobal(ou));
+    auto* cible = boite->template findChild<QWidget*>("qt_scrollarea_viewport");
+    QApplication::sendEvent(cible == nullptr ? boite.get() : cible, &clicDroit);
+    auto& menu = dynamic_cast<QMenu&>(*QApplication::activePopupWidget());
+    bool colle = false;
+    for (QAction* action : menu.actions()) {
+      if (action->text().remove(u'&').startsWith("Coller")) {
+        colle = action->isEnabled();
+        QTest::mouseClick(&menu, Qt::LeftButton, {}, menu.actionGeometry(action).center());
+      }
+    }
+    menu.close();
+    return colle;
+  }
 
   std::unique_ptr<Boite> boite;
 };
@@ -78,29 +95,30 @@ TYPED_TEST(Boites, NAcceptentQueJusquALeurLimite) {
 }
 
 TYPED_TEST(Boites, LeurPropreMenuColleCommeLeClavier) {
-  for (const bool lectureSeule : {false, true}) {
-    this->Montre(5);
-    if (lectureSeule) {
-      this->boite->RendLectureSeule();
-    }
-    QApplication::clipboard()->setText(Fr("cre\u0300me"));
-    const QPoint ou(5, 5);
-    QContextMenuEvent clicDroit(QContextMenuEvent::Mouse, ou, this->boite->mapToGlobal(ou));
-    QWidget* cible = this->boite->template findChild<QWidget*>("qt_scrollarea_viewport");
-    QApplication::sendEvent(cible == nullptr ? this->boite.get() : cible, &clicDroit);
-    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-    ASSERT_NE(menu, nullptr);
-    bool colle = false;
-    for (QAction* action : menu->actions()) {
-      if (action->text().endsWith("\tCtrl+V")) {
-        colle = action->isEnabled();
-        QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(action).center());
-      }
-    }
-    menu->close();
-    EXPECT_NE(colle, lectureSeule);
-    EXPECT_EQ(this->boite->Texte(), lectureSeule ? "" : "crème"_1252);
-  }
+  this->Montre(5);
+  QApplication::clipboard()->setText(Fr("cre\u0300me"));
+  EXPECT_TRUE(this->ColleParLeMenu());
+  EXPECT_EQ(this->boite->Texte(), "crème"_1252);
+}
+
+TYPED_TEST(Boites, LeurPropreMenuColleDeMemeSousUnCadreQuiALaTouche) {
+  this->Montre(5);
+  QAction coller;
+  coller.setShortcut(QKeySequence::Paste);
+  this->boite->addAction(&coller);
+  this->boite->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(this->boite.get()));
+  QApplication::clipboard()->setText(Fr("cre\u0300me"));
+  EXPECT_TRUE(this->ColleParLeMenu());
+  EXPECT_EQ(this->boite->Texte(), "crème"_1252);
+}
+
+TYPED_TEST(Boites, EnLectureSeuleLeurMenuNeCollePas) {
+  this->Montre(5);
+  this->boite->RendLectureSeule();
+  QApplication::clipboard()->setText("soupe");
+  EXPECT_FALSE(this->ColleParLeMenu());
+  EXPECT_EQ(this->boite->Texte(), "");
 }
 
 TYPED_TEST(Boites, CoupentUnCollageTropLong) {
@@ -124,8 +142,16 @@ TYPED_TEST(Boites, DisentLeurLimite) {
 TYPED_TEST(Boites, RognentLesBlancsEtEuxSeuls) {
   this->Montre(sansLimite);
   this->boite->PoseTexte("  \xA0soupe  ");
-  this->boite->RogneTexte();
+  RogneTexte(*this->boite);
   EXPECT_EQ(this->boite->Texte(), "\xA0soupe");
+}
+
+TYPED_TEST(Boites, SansBlancARognerNeSontPasTouchees) {
+  this->Montre(sansLimite);
+  Tape(*this->boite, "soupe");
+  RogneTexte(*this->boite);
+  this->boite->undo();
+  EXPECT_EQ(this->boite->Texte(), "");
 }
 
 TYPED_TEST(Boites, EnLectureSeuleSeSelectionnentSansSeChanger) {

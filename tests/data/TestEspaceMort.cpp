@@ -24,8 +24,8 @@ class EspaceMort : public testing::Test {
   }
 
   Encombrement Mesure() {
-    b.module->bufFamille.LireEntete();
-    b.module->bufRecette.LireEntete();
+    b.module->bufFamille.LitEntete();
+    b.module->bufRecette.LitEntete();
     return MesureRecettes(*b.module);
   }
 
@@ -56,7 +56,7 @@ TEST_F(EspaceMort, GagneToutCeQuUneRecetteSupprimeeOccupait) {
 
 TEST_F(EspaceMort, GagneLaFicheDUneFamilleSupprimee) {
   b.AjouteFamille("Sauces");
-  b.module->bufFamille.LireEntete();
+  b.module->bufFamille.LitEntete();
   b.module->bufFamille.Compte(-1);
   EXPECT_EQ(Mesure().gain(), 130);
 }

@@ -25,8 +25,8 @@ class FichierFamilles : public testing::Test {
       octets += Octets(famille);
     }
     dossier.Ecrit("GLR1.DAT", octets);
-    place = disque.Ouvrir("GLR1.DAT");
-    fichier.LireEntete();
+    place = disque.Ouvre("GLR1.DAT");
+    fichier.LitEntete();
     disque.OublieJournal();
   }
 
@@ -55,10 +55,10 @@ std::string Nom128(std::string_view nom) {
 
 TEST_F(FichierFamilles, CommencentLEnregistrementNALOctetNMoinsUnFoisSaLongueur) {
   Pose(2, {vivant, vivant});
-  fichier.LireCourant(3);
+  fichier.LitCourant(3);
   EXPECT_EQ(fichier.courant().nomFamille.brut(), Nom128("n3"));
   fichier.courant().nomFamille = "Soupes";
-  fichier.EcrireCourant(2);
+  fichier.EcritCourant(2);
   EXPECT_THAT(disque.journal(), ElementsAre("lit GLR1.DAT 260+130", "écrit GLR1.DAT 130+130"));
   EXPECT_EQ(SurDisque(2).nomFamille.brut(), Nom128("Soupes"));
   EXPECT_EQ(SurDisque(3).nomFamille.brut(), Nom128("n3"));
@@ -66,7 +66,7 @@ TEST_F(FichierFamilles, CommencentLEnregistrementNALOctetNMoinsUnFoisSaLongueur)
 
 TEST_F(FichierFamilles, GardentEnTeteEtEnregistrementDeTravailApart) {
   Pose(1, {vivant});
-  fichier.LireCourant(2);
+  fichier.LitCourant(2);
   EXPECT_EQ(fichier[0].nomFamille.brut(), Nom128("GASTRELF.DAT"));
   EXPECT_EQ(fichier[1].nomFamille.brut(), Nom128("n2"));
   EXPECT_EQ(fichier.nbActifs(), 1);
@@ -74,16 +74,16 @@ TEST_F(FichierFamilles, GardentEnTeteEtEnregistrementDeTravailApart) {
 
 TEST_F(FichierFamilles, LisentDesZerosAuDelaDeLaFin) {
   Pose(1, {vivant});
-  fichier.LireCourant(3);
+  fichier.LitCourant(3);
   EXPECT_EQ(Octets(fichier.courant()), std::string(130, '\0'));
-  fichier.LireCourant(1'000'000);
+  fichier.LitCourant(1'000'000);
   EXPECT_EQ(Octets(fichier.courant()), std::string(130, '\0'));
 }
 
 TEST_F(FichierFamilles, LisentCeQuIlResteDUnEnregistrementTronque) {
   Pose(1, {vivant});
   dossier.Ecrit("GLR1.DAT", dossier.Lit("GLR1.DAT") + "\xFF\xFF" + "abc");
-  fichier.LireCourant(3);
+  fichier.LitCourant(3);
   EXPECT_EQ(Octets(fichier.courant()), "\xFF\xFF" + ("abc" + std::string(125, '\0')));
 }
 
@@ -98,15 +98,15 @@ TEST_F(FichierFamilles, ComptentLesEnregistrementsEntiers) {
 TEST_F(FichierFamilles, RefusentUnNumeroSousUn) {
   Pose(1, {vivant});
   for (const std::int64_t numero : {0, -1}) {
-    EXPECT_EQ(PanneDe([&] { fichier.LireCourant(numero); }), Panne::numeroEnregistrement);
-    EXPECT_EQ(PanneDe([&] { fichier.EcrireCourant(numero); }), Panne::numeroEnregistrement);
+    EXPECT_EQ(PanneDe([&] { fichier.LitCourant(numero); }), Panne::numeroEnregistrement);
+    EXPECT_EQ(PanneDe([&] { fichier.EcritCourant(numero); }), Panne::numeroEnregistrement);
   }
   EXPECT_THAT(disque.journal(), testing::IsEmpty());
 }
 
 TEST_F(FichierFamilles, EchouentFermes) {
-  EXPECT_EQ(PanneDe([&] { fichier.LireCourant(1); }), Panne::fichierFerme);
-  EXPECT_EQ(PanneDe([&] { fichier.EcrireCourant(1); }), Panne::fichierFerme);
+  EXPECT_EQ(PanneDe([&] { fichier.LitCourant(1); }), Panne::fichierFerme);
+  EXPECT_EQ(PanneDe([&] { fichier.EcritCourant(1); }), Panne::fichierFerme);
   EXPECT_EQ(PanneDe([&] { (void)fichier.Nombre(); }), Panne::fichierFerme);
   EXPECT_EQ(PanneDe([&] { Parcourt(); }), Panne::fichierFerme);
 }
@@ -116,12 +116,12 @@ TEST_F(FichierFamilles, GrandissentDeTroisEtComptentDeuxApresTroisAjoutsEtUneSup
   for (const char* nom : {"A", "B", "C"}) {
     fichier.courant().actif = vivant;
     fichier.courant().nomFamille = nom;
-    fichier.EcrireCourant(fichier.ProchainNumero());
+    fichier.EcritCourant(fichier.ProchainNumero());
     fichier.Compte(1);
   }
-  fichier.LireCourant(4);
+  fichier.LitCourant(4);
   fichier.courant().actif = supprime;
-  fichier.EcrireCourant(4);
+  fichier.EcritCourant(4);
   fichier.Compte(-1);
   EXPECT_EQ(SurDisque(1).actif, 3);
   EXPECT_EQ(fichier.Nombre(), 5);

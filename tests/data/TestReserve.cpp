@@ -17,7 +17,7 @@ class ReserveTextes : public testing::Test {
  protected:
   ReserveTextes() {
     dossier.Ecrit("GLR3.DAT", "GLR3.DAT");
-    place = disque.Ouvrir("GLR3.DAT");
+    place = disque.Ouvre("GLR3.DAT");
     disque.OublieJournal();
   }
 
@@ -42,7 +42,7 @@ TEST_F(ReserveTextes, MetLePremierTexteDerriereSaSignature) {
 
 TEST_F(ReserveTextes, CommenceALaPosition10DerriereUnNomDeNeufOctets) {
   dossier.Ecrit("GLFV3.DAT", "GLFV3.DAT");
-  place = disque.Ouvrir("GLFV3.DAT");
+  place = disque.Ouvre("GLFV3.DAT");
   EXPECT_EQ(reserve.Longueur(), 9);
   reserve.Ajoute(Reference(), "rue Haute");
   EXPECT_EQ(position, 10);
@@ -174,7 +174,7 @@ TEST_F(ReserveTextes, MetUnTexteALaDernierePositionPossible) {
   std::filesystem::resize_file(dossier.chemin() / "GLR3.DAT", 2'147'483'646);
   reserve.Ajoute(Reference(), "ab");
   EXPECT_EQ(position, 2'147'483'647);
-  EXPECT_EQ(reserve.Lire(position, longueur), "ab");
+  EXPECT_EQ(reserve.Lit(position, longueur), "ab");
 }
 
 TEST_F(ReserveTextes, EchoueQuandLaPositionNeTientPlus) {
@@ -186,46 +186,46 @@ TEST_F(ReserveTextes, EchoueQuandLaPositionNeTientPlus) {
 
 TEST_F(ReserveTextes, LitUnTexteParPositionEtLongueur) {
   dossier.Ecrit("GLR3.DAT", "GLR3.DATundeuxtrois");
-  EXPECT_EQ(reserve.Lire(11, 4), "deux");
-  EXPECT_EQ(reserve.Lire(1, 8), "GLR3.DAT");
-  EXPECT_EQ(reserve.Lire(11, 0), "");
+  EXPECT_EQ(reserve.Lit(11, 4), "deux");
+  EXPECT_EQ(reserve.Lit(1, 8), "GLR3.DAT");
+  EXPECT_EQ(reserve.Lit(11, 0), "");
 }
 
 TEST_F(ReserveTextes, NeLitQueLesPremiersOctetsDUneLimite) {
   dossier.Ecrit("GLR3.DAT", "GLR3.DATundeuxtrois");
-  EXPECT_EQ(reserve.Lire(11, 9, 5), "deuxt");
-  EXPECT_EQ(reserve.Lire(11, 4, 5), "deux");
+  EXPECT_EQ(reserve.Lit(11, 9, 5), "deuxt");
+  EXPECT_EQ(reserve.Lit(11, 4, 5), "deux");
 }
 
 TEST_F(ReserveTextes, CoupeUneRecetteA30000OctetsPourLAfficher) {
   const std::string texte = std::string(30000, 'a') + "b";
   reserve.Ajoute(Reference(), texte);
-  EXPECT_EQ(reserve.Lire(position, longueur, limiteTexte), std::string(30000, 'a'));
-  EXPECT_EQ(reserve.Lire(position, longueur), texte);
+  EXPECT_EQ(reserve.Lit(position, longueur, limiteTexte), std::string(30000, 'a'));
+  EXPECT_EQ(reserve.Lit(position, longueur), texte);
 }
 
 TEST_F(ReserveTextes, LitCeQuIlYAQuandLaReferenceDepasseLaFin) {
   dossier.Ecrit("GLR3.DAT", "GLR3.DATabc");
-  EXPECT_EQ(reserve.Lire(10, 100), "bc");
-  EXPECT_EQ(reserve.Lire(10, Reserve::sansLimite), "bc");
-  EXPECT_EQ(reserve.Lire(12, 5), "");
-  EXPECT_EQ(reserve.Lire(2'147'483'647, 5), "");
+  EXPECT_EQ(reserve.Lit(10, 100), "bc");
+  EXPECT_EQ(reserve.Lit(10, Reserve::sansLimite), "bc");
+  EXPECT_EQ(reserve.Lit(12, 5), "");
+  EXPECT_EQ(reserve.Lit(2'147'483'647, 5), "");
 }
 
 TEST_F(ReserveTextes, NeLitRienEnPositionZeroEtRendUnTexteVide) {
   place.reset();
-  EXPECT_EQ(reserve.Lire(0, 1), "");
-  EXPECT_EQ(reserve.Lire(0, -1), "");
+  EXPECT_EQ(reserve.Lit(0, 1), "");
+  EXPECT_EQ(reserve.Lit(0, -1), "");
 }
 
 TEST_F(ReserveTextes, NeLitNiUneLongueurNegativeNiUnePositionNegative) {
-  EXPECT_EQ(PanneDe([&] { (void)reserve.Lire(9, -1); }), Panne::appelIncorrect);
-  EXPECT_EQ(PanneDe([&] { (void)reserve.Lire(-1, 1); }), Panne::numeroEnregistrement);
+  EXPECT_EQ(PanneDe([&] { (void)reserve.Lit(9, -1); }), Panne::appelIncorrect);
+  EXPECT_EQ(PanneDe([&] { (void)reserve.Lit(-1, 1); }), Panne::numeroEnregistrement);
 }
 
 TEST_F(ReserveTextes, EchoueFermee) {
   place.reset();
-  EXPECT_EQ(PanneDe([&] { (void)reserve.Lire(1, 1); }), Panne::fichierFerme);
+  EXPECT_EQ(PanneDe([&] { (void)reserve.Lit(1, 1); }), Panne::fichierFerme);
   EXPECT_EQ(PanneDe([&] { reserve.Ajoute(Reference(), "x"); }), Panne::fichierFerme);
 }
 

@@ -16,15 +16,15 @@ class FichierEssai final : public Fichier {
   FichierEssai(DisqueEssai& disque, std::string nom, std::unique_ptr<Fichier> vrai)
       : disque_(disque), nom_(std::move(nom)), vrai_(std::move(vrai)) {}
 
-  std::size_t Lire(std::int64_t decalage, std::span<char> tampon) override {
+  std::size_t Lit(std::int64_t decalage, std::span<char> tampon) override {
     disque_.Note(Etendue("lit", nom_, decalage, tampon.size()));
-    return vrai_->Lire(decalage, tampon);
+    return vrai_->Lit(decalage, tampon);
   }
 
-  void Ecrire(std::int64_t decalage, std::string_view octets) override {
+  void Ecrit(std::int64_t decalage, std::string_view octets) override {
     disque_.Note(Etendue("écrit", nom_, decalage, octets.size()),
-                 [&] { vrai_->Ecrire(decalage, octets.substr(0, octets.size() / 2)); });
-    vrai_->Ecrire(decalage, octets);
+                 [&] { vrai_->Ecrit(decalage, octets.substr(0, octets.size() / 2)); });
+    vrai_->Ecrit(decalage, octets);
   }
 
   std::int64_t Longueur() override {
@@ -105,34 +105,34 @@ bool DisqueEssai::ExisteAilleurs(const std::string& chemin) {
   return disque_.ExisteAilleurs(chemin);
 }
 
-std::unique_ptr<Fichier> DisqueEssai::Ouvrir(const std::string& nom) {
+std::unique_ptr<Fichier> DisqueEssai::Ouvre(const std::string& nom) {
   Note("ouvre " + nom);
-  return std::make_unique<FichierEssai>(*this, nom, disque_.Ouvrir(nom));
+  return std::make_unique<FichierEssai>(*this, nom, disque_.Ouvre(nom));
 }
 
-void DisqueEssai::Copier(const std::string& source, const std::string& cible) {
+void DisqueEssai::Copie(const std::string& source, const std::string& cible) {
   Note("copie " + source + " " + cible);
-  disque_.Copier(source, cible);
+  disque_.Copie(source, cible);
 }
 
-void DisqueEssai::Supprimer(const std::string& nom) {
+void DisqueEssai::Supprime(const std::string& nom) {
   Note("supprime " + nom);
-  disque_.Supprimer(nom);
+  disque_.Supprime(nom);
 }
 
-void DisqueEssai::Renommer(const std::string& nom, const std::string& nouveau) {
+void DisqueEssai::Renomme(const std::string& nom, const std::string& nouveau) {
   Note("renomme " + nom + " " + nouveau);
-  disque_.Renommer(nom, nouveau);
+  disque_.Renomme(nom, nouveau);
 }
 
-void DisqueEssai::CreerDossier(const std::string& nom) {
+void DisqueEssai::CreeDossier(const std::string& nom) {
   Note("crée " + nom);
-  disque_.CreerDossier(nom);
+  disque_.CreeDossier(nom);
 }
 
-void DisqueEssai::SupprimerDossier(const std::string& nom) {
+void DisqueEssai::SupprimeDossier(const std::string& nom) {
   Note("enlève " + nom);
-  disque_.SupprimerDossier(nom);
+  disque_.SupprimeDossier(nom);
 }
 
 }  // namespace gastrelle::essai

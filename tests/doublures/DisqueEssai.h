@@ -47,12 +47,12 @@ class DisqueEssai final : public AccesFichiers {
   [[nodiscard]] std::string CheminEntier(const std::string& nom) const override {
     return disque_.CheminEntier(nom);
   }
-  std::unique_ptr<Fichier> Ouvrir(const std::string& nom) override;
-  void Copier(const std::string& source, const std::string& cible) override;
-  void Supprimer(const std::string& nom) override;
-  void Renommer(const std::string& nom, const std::string& nouveau) override;
-  void CreerDossier(const std::string& nom) override;
-  void SupprimerDossier(const std::string& nom) override;
+  std::unique_ptr<Fichier> Ouvre(const std::string& nom) override;
+  void Copie(const std::string& source, const std::string& cible) override;
+  void Supprime(const std::string& nom) override;
+  void Renomme(const std::string& nom, const std::string& nouveau) override;
+  void CreeDossier(const std::string& nom) override;
+  void SupprimeDossier(const std::string& nom) override;
 
   /// Notes a call; throws if it has to fail, after `moitie` when half of a write is to be done.
   void Note(const std::string& ligne, const std::function<void()>& moitie = {});

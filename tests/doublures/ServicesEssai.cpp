@@ -13,7 +13,8 @@ void MessagesEssai::Informe(std::string_view texte, Icone icone, std::string_vie
   }
 }
 
-Reponse MessagesEssai::Demande(std::string_view texte, Choix /*choix*/) {
+Reponse MessagesEssai::Demande(std::string_view texte, Choix offert) {
+  choix = offert;
   questions.emplace_back(texte);
   if (reponses.empty()) {
     ADD_FAILURE() << "question inattendue : " << VersUtf8(texte);

@@ -29,11 +29,12 @@ struct MessageVu {
 class MessagesEssai final : public Messages {
  public:
   void Informe(std::string_view texte, Icone icone, std::string_view titre) override;
-  Reponse Demande(std::string_view texte, Choix choix) override;
+  Reponse Demande(std::string_view texte, Choix offert) override;
   void Bip() override { ++bips; }
 
   std::vector<MessageVu> vus;
   std::vector<std::string> questions;
+  Choix choix = Choix::ouiNon;  ///< what the last question offered
   std::deque<Reponse> reponses;
   int bips = 0;
   /// Runs while a message is on the screen.
@@ -61,7 +62,7 @@ class HorlogeEssai final : public Horloge {
 
 class AssociationEssai final : public Association {
  public:
-  Ouverture Ouvrir(const std::string& cible) override {
+  Ouverture Ouvre(const std::string& cible) override {
     cibles.push_back(cible);
     return reponse;
   }

@@ -18,7 +18,7 @@ class FichierMemoire final : public Fichier {
   FichierMemoire(DisqueMemoire& disque, std::shared_ptr<std::string> octets)
       : disque_(disque), octets_(std::move(octets)) {}
 
-  std::size_t Lire(std::int64_t decalage, std::span<char> tampon) override {
+  std::size_t Lit(std::int64_t decalage, std::span<char> tampon) override {
     disque_.Compte();
     Exige(decalage >= 0, Panne::appelIncorrect);
     const auto debut =
@@ -26,7 +26,7 @@ class FichierMemoire final : public Fichier {
     return octets_->copy(tampon.data(), tampon.size(), debut);
   }
 
-  void Ecrire(std::int64_t decalage, std::string_view octets) override {
+  void Ecrit(std::int64_t decalage, std::string_view octets) override {
     disque_.Compte();
     Exige(decalage >= 0, Panne::appelIncorrect);
     const auto longueur = static_cast<std::int64_t>(octets.size());
@@ -76,7 +76,7 @@ bool DisqueMemoire::ExisteAilleurs(const std::string& chemin) {
   return ailleurs_.contains(chemin);
 }
 
-std::unique_ptr<Fichier> DisqueMemoire::Ouvrir(const std::string& nom) {
+std::unique_ptr<Fichier> DisqueMemoire::Ouvre(const std::string& nom) {
   Compte();
   Octets& octets = fichiers_[nom];
   if (!octets) {
@@ -85,30 +85,30 @@ std::unique_ptr<Fichier> DisqueMemoire::Ouvrir(const std::string& nom) {
   return std::make_unique<FichierMemoire>(*this, octets);
 }
 
-void DisqueMemoire::Copier(const std::string& source, const std::string& cible) {
+void DisqueMemoire::Copie(const std::string& source, const std::string& cible) {
   Compte();
   Exige(fichiers_.contains(source), Panne::fichierIntrouvable);
   Pose(cible, *fichiers_[source]);
 }
 
-void DisqueMemoire::Supprimer(const std::string& nom) {
+void DisqueMemoire::Supprime(const std::string& nom) {
   Compte();
   Exige(fichiers_.erase(nom) == 1, Panne::fichierIntrouvable);
 }
 
-void DisqueMemoire::Renommer(const std::string& nom, const std::string& nouveau) {
+void DisqueMemoire::Renomme(const std::string& nom, const std::string& nouveau) {
   Compte();
   auto fichier = fichiers_.extract(nom);
   Exige(!fichier.empty(), Panne::fichierIntrouvable);
   fichiers_[nouveau] = std::move(fichier.mapped());
 }
 
-void DisqueMemoire::CreerDossier(const std::string& nom) {
+void DisqueMemoire::CreeDossier(const std::string& nom) {
   Compte();
-  Exige(dossiers_.insert(nom).second, Panne::accesChemin);
+  Exige(dossiers_.insert(nom).second, Panne::accesFichier);
 }
 
-void DisqueMemoire::SupprimerDossier(const std::string& nom) {
+void DisqueMemoire::SupprimeDossier(const std::string& nom) {
   Compte();
   Exige(dossiers_.erase(nom) == 1, Panne::cheminIntrouvable);
 }

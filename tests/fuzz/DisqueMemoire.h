@@ -32,12 +32,12 @@ class DisqueMemoire final : public AccesFichiers {
   [[nodiscard]] std::string CheminEntier(const std::string& nom) const override {
     return "/memoire/" + nom;
   }
-  std::unique_ptr<Fichier> Ouvrir(const std::string& nom) override;
-  void Copier(const std::string& source, const std::string& cible) override;
-  void Supprimer(const std::string& nom) override;
-  void Renommer(const std::string& nom, const std::string& nouveau) override;
-  void CreerDossier(const std::string& nom) override;
-  void SupprimerDossier(const std::string& nom) override;
+  std::unique_ptr<Fichier> Ouvre(const std::string& nom) override;
+  void Copie(const std::string& source, const std::string& cible) override;
+  void Supprime(const std::string& nom) override;
+  void Renomme(const std::string& nom, const std::string& nouveau) override;
+  void CreeDossier(const std::string& nom) override;
+  void SupprimeDossier(const std::string& nom) override;
 
   /// One call of the disk goes by; throws if it is the one that fails.
   void Compte();

@@ -69,7 +69,7 @@ class Vie {
         Verifie(recettes.size() <= static_cast<std::size_t>(module_.bufRecette.nbActifs()),
                 "plus de recettes listées que comptées");
         for (const EntreeListe& recette : recettes) {
-          Essaie([&] { static_cast<void>(LitRecette(module_, recette.donnee)); });
+          Essaie([&] { static_cast<void>(LitRecette(module_, recette.numero)); });
         }
       });
     }
@@ -89,7 +89,7 @@ class Vie {
     using Bornes = std::numeric_limits<std::int32_t>;
     std::vector<std::int32_t> numeros{Bornes::min(), -1, 0, 1, 2, 3, Bornes::max()};
     for (const EntreeListe& entree : liste) {
-      numeros.push_back(entree.donnee);
+      numeros.push_back(entree.numero);
     }
     return numeros;
   }
@@ -97,7 +97,7 @@ class Vie {
   void Recettes() {
     for (const EntreeListe& recette : bilan_.recettes) {
       Essaie([&] {
-        const RecetteLue lue = LitRecette(module_, recette.donnee);
+        const RecetteLue lue = LitRecette(module_, recette.numero);
         Verifie(lue.texte.size() <= static_cast<std::size_t>(limiteTexte),
                 "un texte plus long que sa limite");
         Verifie(lue.image.empty() || !lue.imagePerdue, "une image trouvée et perdue");
@@ -158,7 +158,7 @@ class Vie {
     Verifie(liste.size() == static_cast<std::size_t>(fichier.nbActifs()),
             "une liste d'un autre nombre que l'en-tête");
     for (const EntreeListe& entree : liste) {
-      Verifie(entree.donnee >= 2 && entree.donnee <= fichier.Nombre(), "une entrée sans fiche");
+      Verifie(entree.numero >= 2 && entree.numero <= fichier.Nombre(), "une entrée sans fiche");
     }
   }
 
@@ -166,7 +166,7 @@ class Vie {
   template <class Lecture>
   void LitTout(Lus& lus, Lecture&& lit) {
     for (const EntreeListe& entree : lus.liste) {
-      Essaie([&] { lus.textes.push_back(lit(entree.donnee)); });
+      Essaie([&] { lus.textes.push_back(lit(entree.numero)); });
     }
     for (const std::int32_t numero : Numeros({})) {
       Essaie([&] { static_cast<void>(lit(numero)); });

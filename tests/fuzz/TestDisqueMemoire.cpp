@@ -23,42 +23,42 @@ void Echoue(Panne attendue, F&& appel) {
 TEST(DisqueMemoire, OuvrirCreeUnFichierVide) {
   DisqueMemoire disque;
   EXPECT_FALSE(disque.Existe("A"));
-  EXPECT_EQ(disque.Ouvrir("A")->Longueur(), 0);
+  EXPECT_EQ(disque.Ouvre("A")->Longueur(), 0);
   EXPECT_TRUE(disque.Existe("A"));
 }
 
 TEST(DisqueMemoire, LitCeQueLeFichierTientEtRienAuDela) {
   DisqueMemoire disque;
   disque.Pose("A", "abcdef");
-  const auto fichier = disque.Ouvrir("A");
+  const auto fichier = disque.Ouvre("A");
   std::array<char, 4> tampon{};
-  EXPECT_EQ(fichier->Lire(4, tampon), 2U);
+  EXPECT_EQ(fichier->Lit(4, tampon), 2U);
   EXPECT_EQ(std::string(tampon.data(), 2), "ef");
-  EXPECT_EQ(fichier->Lire(std::int64_t{1} << 40U, tampon), 0U);
+  EXPECT_EQ(fichier->Lit(std::int64_t{1} << 40U, tampon), 0U);
 }
 
 TEST(DisqueMemoire, EcrireDeborde) {
   DisqueMemoire disque;
   disque.Pose("A", "abc");
-  disque.Ouvrir("A")->Ecrire(2, "xy");
+  disque.Ouvre("A")->Ecrit(2, "xy");
   EXPECT_EQ(disque.Lit("A"), "abxy");
-  disque.Ouvrir("A")->Ecrire(6, "z");
+  disque.Ouvre("A")->Ecrit(6, "z");
   EXPECT_EQ(disque.Lit("A"), std::string("abxy\0\0z", 7));
 }
 
 TEST(DisqueMemoire, UnFichierDemesureTrouveLeDisquePlein) {
   DisqueMemoire disque;
-  const auto fichier = disque.Ouvrir("A");
-  fichier->Ecrire(DisqueMemoire::capacite - 1, "x");
-  Echoue(Panne::disquePlein, [&] { fichier->Ecrire(DisqueMemoire::capacite, "x"); });
+  const auto fichier = disque.Ouvre("A");
+  fichier->Ecrit(DisqueMemoire::capacite - 1, "x");
+  Echoue(Panne::disquePlein, [&] { fichier->Ecrit(DisqueMemoire::capacite, "x"); });
   EXPECT_EQ(fichier->Longueur(), DisqueMemoire::capacite);
 }
 
 TEST(DisqueMemoire, UnFichierOuvertSurvitASonNom) {
   DisqueMemoire disque;
   disque.Pose("A", "abc");
-  const auto fichier = disque.Ouvrir("A");
-  disque.Supprimer("A");
+  const auto fichier = disque.Ouvre("A");
+  disque.Supprime("A");
   EXPECT_FALSE(disque.Existe("A"));
   EXPECT_EQ(fichier->Longueur(), 3);
 }
@@ -66,9 +66,9 @@ TEST(DisqueMemoire, UnFichierOuvertSurvitASonNom) {
 TEST(DisqueMemoire, CopieEtRenomme) {
   DisqueMemoire disque;
   disque.Pose("A", "abc");
-  disque.Copier("A", "B");
-  disque.Renommer("A", "C");
-  disque.Ouvrir("C")->Ecrire(0, "z");
+  disque.Copie("A", "B");
+  disque.Renomme("A", "C");
+  disque.Ouvre("C")->Ecrit(0, "z");
   EXPECT_EQ(disque.Lit("B"), "abc");
   EXPECT_EQ(disque.Lit("C"), "zbc");
   EXPECT_FALSE(disque.Existe("A"));
@@ -76,20 +76,20 @@ TEST(DisqueMemoire, CopieEtRenomme) {
 
 TEST(DisqueMemoire, CeQuiNEstPasLaEchoue) {
   DisqueMemoire disque;
-  Echoue(Panne::fichierIntrouvable, [&] { disque.Copier("A", "B"); });
-  Echoue(Panne::fichierIntrouvable, [&] { disque.Supprimer("A"); });
-  Echoue(Panne::fichierIntrouvable, [&] { disque.Renommer("A", "B"); });
-  Echoue(Panne::cheminIntrouvable, [&] { disque.SupprimerDossier("D"); });
+  Echoue(Panne::fichierIntrouvable, [&] { disque.Copie("A", "B"); });
+  Echoue(Panne::fichierIntrouvable, [&] { disque.Supprime("A"); });
+  Echoue(Panne::fichierIntrouvable, [&] { disque.Renomme("A", "B"); });
+  Echoue(Panne::cheminIntrouvable, [&] { disque.SupprimeDossier("D"); });
   EXPECT_FALSE(disque.Existe("B"));
 }
 
 TEST(DisqueMemoire, UnDossierNEstPasUnFichier) {
   DisqueMemoire disque;
-  disque.CreerDossier("IMAGE");
+  disque.CreeDossier("IMAGE");
   EXPECT_TRUE(disque.DossierExiste("IMAGE"));
   EXPECT_FALSE(disque.Existe("IMAGE"));
-  Echoue(Panne::accesChemin, [&] { disque.CreerDossier("IMAGE"); });
-  disque.SupprimerDossier("IMAGE");
+  Echoue(Panne::accesFichier, [&] { disque.CreeDossier("IMAGE"); });
+  disque.SupprimeDossier("IMAGE");
   EXPECT_FALSE(disque.DossierExiste("IMAGE"));
 }
 

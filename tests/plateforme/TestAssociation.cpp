@@ -8,12 +8,12 @@ namespace gastrelle::essai {
 namespace {
 
 TEST(Association, DitQuAucunProgrammeNOuvreUneAdresseInconnue) {
-  EXPECT_EQ(AssociationSysteme().Ouvrir("gastrelle-sans-programme:rien"),
+  EXPECT_EQ(AssociationSysteme().Ouvre("gastrelle-sans-programme:rien"),
             Ouverture::aucuneAssociation);
 }
 
 TEST(Association, EchoueSurUnFichierQuiManque) {
-  EXPECT_NE(AssociationSysteme().Ouvrir("/dossier/absent/photo.jpg"), Ouverture::ouverte);
+  EXPECT_NE(AssociationSysteme().Ouvre("/dossier/absent/photo.jpg"), Ouverture::ouverte);
 }
 
 }  // namespace

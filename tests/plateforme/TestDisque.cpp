@@ -17,7 +17,7 @@ class DisqueReel : public testing::Test {
  protected:
   std::string Lit(Fichier& fichier, std::int64_t decalage, std::size_t combien) {
     std::string octets(combien, '#');
-    octets.resize(fichier.Lire(decalage, octets));
+    octets.resize(fichier.Lit(decalage, octets));
     return octets;
   }
 
@@ -56,14 +56,14 @@ class DisqueEtroit {
 
 TEST_F(DisqueReel, LitALaPositionDemandee) {
   dossier.Ecrit("X", "0123456789");
-  const auto fichier = disque.Ouvrir("X");
+  const auto fichier = disque.Ouvre("X");
   EXPECT_EQ(Lit(*fichier, 3, 4), "3456");
   EXPECT_EQ(Lit(*fichier, 0, 2), "01");
 }
 
 TEST_F(DisqueReel, LitMoinsEnFinDeFichierEtRienAuDela) {
   dossier.Ecrit("X", "0123456789");
-  const auto fichier = disque.Ouvrir("X");
+  const auto fichier = disque.Ouvre("X");
   EXPECT_EQ(Lit(*fichier, 8, 5), "89");
   EXPECT_EQ(Lit(*fichier, 10, 5), "");
   EXPECT_EQ(Lit(*fichier, 1000, 5), "");
@@ -71,43 +71,43 @@ TEST_F(DisqueReel, LitMoinsEnFinDeFichierEtRienAuDela) {
 
 TEST_F(DisqueReel, EcritALaPositionSansToucherAuReste) {
   dossier.Ecrit("X", "0123456789");
-  const auto fichier = disque.Ouvrir("X");
-  fichier->Ecrire(4, "ab");
+  const auto fichier = disque.Ouvre("X");
+  fichier->Ecrit(4, "ab");
   EXPECT_EQ(dossier.Lit("X"), "0123ab6789");
 }
 
 TEST_F(DisqueReel, AgranditLeFichierParUneEcritureAuDelaDeLaFin) {
   dossier.Ecrit("X", "01");
-  const auto fichier = disque.Ouvrir("X");
-  fichier->Ecrire(4, "ab");
+  const auto fichier = disque.Ouvre("X");
+  fichier->Ecrit(4, "ab");
   EXPECT_EQ(dossier.Lit("X"), std::string("01\0\0ab", 6));
   EXPECT_EQ(fichier->Longueur(), 6);
 }
 
 TEST_F(DisqueReel, DemandeLaLongueurAuFichierChaqueFois) {
-  const auto fichier = disque.Ouvrir("X");
+  const auto fichier = disque.Ouvre("X");
   EXPECT_EQ(fichier->Longueur(), 0);
-  disque.Ouvrir("X")->Ecrire(0, "ailleurs");
+  disque.Ouvre("X")->Ecrit(0, "ailleurs");
   EXPECT_EQ(fichier->Longueur(), 8);
   EXPECT_EQ(Lit(*fichier, 0, 8), "ailleurs");
 }
 
 TEST_F(DisqueReel, CreeVideUnFichierQuiManqueEtGardeCeluiQuiEstLa) {
   dossier.Ecrit("X", "contenu");
-  EXPECT_EQ(disque.Ouvrir("X")->Longueur(), 7);
-  EXPECT_EQ(disque.Ouvrir("Y")->Longueur(), 0);
+  EXPECT_EQ(disque.Ouvre("X")->Longueur(), 7);
+  EXPECT_EQ(disque.Ouvre("Y")->Longueur(), 0);
   EXPECT_TRUE(dossier.A("Y"));
 }
 
 TEST_F(DisqueReel, TientUnePositionNegativePourUnAppelIncorrect) {
-  const auto fichier = disque.Ouvrir("X");
-  EXPECT_EQ(PanneDe([&] { fichier->Ecrire(-1, "a"); }), Panne::appelIncorrect);
+  const auto fichier = disque.Ouvre("X");
+  EXPECT_EQ(PanneDe([&] { fichier->Ecrit(-1, "a"); }), Panne::appelIncorrect);
   EXPECT_EQ(PanneDe([&] { Lit(*fichier, -1, 1); }), Panne::appelIncorrect);
 }
 
 TEST_F(DisqueReel, DistingueFichierEtDossier) {
   dossier.Ecrit("X", "");
-  disque.CreerDossier("D");
+  disque.CreeDossier("D");
   EXPECT_TRUE(disque.Existe("X"));
   EXPECT_FALSE(disque.Existe("D"));
   EXPECT_FALSE(disque.Existe("Z"));
@@ -132,55 +132,55 @@ TEST_F(DisqueReel, NeTrouveRienSousUnFichierSansEchouer) {
 
 TEST_F(DisqueReel, EchoueQuandLaRechercheElleMemeEchoue) {
   const std::string tropLong(5000, 'n');
-  EXPECT_EQ(PanneDe([&] { (void)disque.Existe(tropLong); }), Panne::accesChemin);
-  EXPECT_EQ(PanneDe([&] { (void)disque.DossierExiste(tropLong); }), Panne::accesChemin);
+  EXPECT_EQ(PanneDe([&] { (void)disque.Existe(tropLong); }), Panne::accesFichier);
+  EXPECT_EQ(PanneDe([&] { (void)disque.DossierExiste(tropLong); }), Panne::accesFichier);
 }
 
 TEST_F(DisqueReel, NommeLesFichiersDUnDossierDuProgramme) {
-  disque.CreerDossier("SAUVE");
+  disque.CreeDossier("SAUVE");
   dossier.Ecrit("X", "copié");
-  disque.Copier("X", "SAUVE/X");
+  disque.Copie("X", "SAUVE/X");
   EXPECT_EQ(dossier.Lit("SAUVE/X"), "copié");
   EXPECT_TRUE(disque.Existe("SAUVE/X"));
 }
 
 TEST_F(DisqueReel, NOuvrePasUnDossierNiSousUnDossierQuiManque) {
-  disque.CreerDossier("D");
-  EXPECT_EQ(PanneDe([&] { (void)disque.Ouvrir("D"); }), Panne::accesChemin);
-  EXPECT_EQ(PanneDe([&] { (void)disque.Ouvrir("ABSENT/X"); }), Panne::fichierIntrouvable);
+  disque.CreeDossier("D");
+  EXPECT_EQ(PanneDe([&] { (void)disque.Ouvre("D"); }), Panne::accesFichier);
+  EXPECT_EQ(PanneDe([&] { (void)disque.Ouvre("ABSENT/X"); }), Panne::fichierIntrouvable);
   dossier.Ecrit("X", "");
-  EXPECT_EQ(PanneDe([&] { (void)disque.Ouvrir("X/Y"); }), Panne::cheminIntrouvable);
+  EXPECT_EQ(PanneDe([&] { (void)disque.Ouvre("X/Y"); }), Panne::cheminIntrouvable);
 }
 
 TEST_F(DisqueReel, SupprimeEtEchoueSurUnFichierQuiManque) {
   dossier.Ecrit("X", "");
-  disque.Supprimer("X");
+  disque.Supprime("X");
   EXPECT_FALSE(dossier.A("X"));
-  EXPECT_EQ(PanneDe([&] { disque.Supprimer("X"); }), Panne::fichierIntrouvable);
+  EXPECT_EQ(PanneDe([&] { disque.Supprime("X"); }), Panne::fichierIntrouvable);
 }
 
 TEST_F(DisqueReel, RenommeEtEchoueSurUnFichierQuiManque) {
   dossier.Ecrit("X", "contenu");
-  disque.Renommer("X", "Y");
+  disque.Renomme("X", "Y");
   EXPECT_FALSE(dossier.A("X"));
   EXPECT_EQ(dossier.Lit("Y"), "contenu");
-  EXPECT_EQ(PanneDe([&] { disque.Renommer("X", "Z"); }), Panne::fichierIntrouvable);
+  EXPECT_EQ(PanneDe([&] { disque.Renomme("X", "Z"); }), Panne::fichierIntrouvable);
 }
 
 TEST_F(DisqueReel, CreeUnDossierUneSeuleFois) {
-  disque.CreerDossier("D");
+  disque.CreeDossier("D");
   EXPECT_TRUE(std::filesystem::is_directory(dossier.chemin() / "D"));
-  EXPECT_EQ(PanneDe([&] { disque.CreerDossier("D"); }), Panne::accesChemin);
+  EXPECT_EQ(PanneDe([&] { disque.CreeDossier("D"); }), Panne::accesFichier);
 }
 
 TEST_F(DisqueReel, NEnleveQuUnDossierVide) {
-  disque.CreerDossier("D");
+  disque.CreeDossier("D");
   dossier.Ecrit("D/X", "");
-  EXPECT_EQ(PanneDe([&] { disque.SupprimerDossier("D"); }), Panne::accesChemin);
+  EXPECT_EQ(PanneDe([&] { disque.SupprimeDossier("D"); }), Panne::accesFichier);
   dossier.Supprime("D/X");
-  disque.SupprimerDossier("D");
+  disque.SupprimeDossier("D");
   EXPECT_FALSE(dossier.A("D"));
-  EXPECT_EQ(PanneDe([&] { disque.SupprimerDossier("D"); }), Panne::fichierIntrouvable);
+  EXPECT_EQ(PanneDe([&] { disque.SupprimeDossier("D"); }), Panne::fichierIntrouvable);
 }
 
 TEST_F(DisqueReel, CopieTousLesOctetsMemeDUnGrandFichier) {
@@ -189,39 +189,39 @@ TEST_F(DisqueReel, CopieTousLesOctetsMemeDUnGrandFichier) {
     octets[i] = static_cast<char>(i % 251);
   }
   dossier.Ecrit("X", octets);
-  disque.Copier("X", "Y");
+  disque.Copie("X", "Y");
   EXPECT_TRUE(dossier.Lit("Y") == octets);
 }
 
 TEST_F(DisqueReel, RemplaceLaCibleDUneCopieJusquALaFin) {
   dossier.Ecrit("X", "court");
   dossier.Ecrit("Y", "un contenu bien plus long");
-  disque.Copier("X", "Y");
+  disque.Copie("X", "Y");
   EXPECT_EQ(dossier.Lit("Y"), "court");
   EXPECT_EQ(dossier.Lit("X"), "court");
 }
 
 TEST_F(DisqueReel, NeLaissePasDeCopieQuandLaSourceManque) {
-  EXPECT_EQ(PanneDe([&] { disque.Copier("X", "Y"); }), Panne::fichierIntrouvable);
+  EXPECT_EQ(PanneDe([&] { disque.Copie("X", "Y"); }), Panne::fichierIntrouvable);
   EXPECT_FALSE(dossier.A("Y"));
 }
 
 TEST_F(DisqueReel, GardeLaCibleQuandLaSourceNeSOuvrePas) {
   dossier.Ecrit("Y", "des années de recettes");
-  EXPECT_EQ(PanneDe([&] { disque.Copier("X", "Y"); }), Panne::fichierIntrouvable);
+  EXPECT_EQ(PanneDe([&] { disque.Copie("X", "Y"); }), Panne::fichierIntrouvable);
   EXPECT_EQ(dossier.Lit("Y"), "des années de recettes");
 }
 
 TEST_F(DisqueReel, NeLaissePasDeCopieQuandLaLectureEchoue) {
-  disque.CreerDossier("D");
-  EXPECT_EQ(PanneDe([&] { disque.Copier("D", "Y"); }), Panne::accesChemin);
+  disque.CreeDossier("D");
+  EXPECT_EQ(PanneDe([&] { disque.Copie("D", "Y"); }), Panne::accesFichier);
   EXPECT_FALSE(dossier.A("Y"));
 }
 
 TEST_F(DisqueReel, NeLaissePasDeCopiePartielleSurUnDisquePlein) {
   dossier.Ecrit("X", std::string(10'000, 'x'));
   const DisqueEtroit etroit(4096);
-  EXPECT_EQ(PanneDe([&] { disque.Copier("X", "Y"); }), Panne::disquePlein);
+  EXPECT_EQ(PanneDe([&] { disque.Copie("X", "Y"); }), Panne::disquePlein);
   EXPECT_FALSE(dossier.A("Y"));
 }
 
@@ -229,21 +229,21 @@ TEST_F(DisqueReel, GardeLAncienneCibleQuandLaCopieNAboutitPas) {
   dossier.Ecrit("X", std::string(10'000, 'x'));
   dossier.Ecrit("Y", "des années de recettes");
   const DisqueEtroit etroit(4096);
-  EXPECT_EQ(PanneDe([&] { disque.Copier("X", "Y"); }), Panne::disquePlein);
+  EXPECT_EQ(PanneDe([&] { disque.Copie("X", "Y"); }), Panne::disquePlein);
   EXPECT_EQ(dossier.Lit("Y"), "des années de recettes");
   EXPECT_EQ(Noms(), (std::set<std::string>{"X", "Y"}));
 }
 
 TEST_F(DisqueReel, NeLaisseQueLaCopie) {
   dossier.Ecrit("X", "contenu");
-  disque.Copier("X", "Y");
+  disque.Copie("X", "Y");
   EXPECT_EQ(Noms(), (std::set<std::string>{"X", "Y"}));
 }
 
 TEST_F(DisqueReel, DitLeDisquePleinQuandUneEcritureNePassePas) {
-  const auto fichier = disque.Ouvrir("X");
+  const auto fichier = disque.Ouvre("X");
   const DisqueEtroit etroit(4096);
-  EXPECT_EQ(PanneDe([&] { fichier->Ecrire(4096, "x"); }), Panne::disquePlein);
+  EXPECT_EQ(PanneDe([&] { fichier->Ecrit(4096, "x"); }), Panne::disquePlein);
 }
 
 }  // namespace

@@ -26,7 +26,7 @@ constexpr PanneDite pannes[] = {
     {Panne::disquePlein, 61, "Disque plein"},
     {Panne::numeroEnregistrement, 63, "Numéro d'enregistrement incorrect"_1252},
     {Panne::permissionRefusee, 70, "Permission refusée"_1252},
-    {Panne::accesChemin, 75, "Erreur d'accès au fichier"_1252},
+    {Panne::accesFichier, 75, "Erreur d'accès au fichier"_1252},
     {Panne::cheminIntrouvable, 76, "Chemin d'accès introuvable"_1252},
 };
 
@@ -61,7 +61,7 @@ TEST(ErreurExecution, TraduitLesErreursDuSysteme) {
 
 TEST(ErreurExecution, PrendTouteAutreErreurDuSystemePourUnAccesManque) {
   for (const int autre : {EISDIR, EEXIST, ENOTEMPTY, EMFILE, ENAMETOOLONG, 0, -1}) {
-    EXPECT_EQ(PanneDuSysteme(autre), Panne::accesChemin) << autre;
+    EXPECT_EQ(PanneDuSysteme(autre), Panne::accesFichier) << autre;
   }
 }
 

@@ -104,6 +104,33 @@ TEST_F(Suivi, CacherLaFenetreActivePrendLaSuivante) {
   EXPECT_EQ(journal, QStringList{"+b"});
 }
 
+TEST_F(Suivi, UneFenetreCacheePuisMontreeRedevientActive) {
+  for (const bool maximisee : {false, true}) {
+    SCOPED_TRACE(maximisee);
+    if (maximisee) {
+      a->showMaximized();
+    }
+    a->hide();
+    QApplication::processEvents();
+    journal.clear();
+    a->show();
+    enfants->setActiveSubWindow(a);
+    QApplication::processEvents();
+    EXPECT_EQ(journal, (QStringList{"-b", "+a"}));
+  }
+}
+
+TEST_F(Suivi, LaSeuleFenetreCacheePuisMontreeRedevientActive) {
+  b->hide();
+  a->hide();
+  QApplication::processEvents();
+  EXPECT_EQ(suivi->active(), nullptr);
+  journal.clear();
+  a->show();
+  enfants->setActiveSubWindow(a);
+  EXPECT_EQ(journal, QStringList{"+a"});
+}
+
 TEST_F(Suivi, FermerLaFenetreActivePrendLaSuivante) {
   a->close();
   QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);

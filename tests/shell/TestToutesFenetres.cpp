@@ -5,6 +5,9 @@
 #include <QKeySequence>
 #include <QTest>
 
+#include "controles/BandeauLogo.h"
+#include "controles/Boutons.h"
+#include "controles/Legende.h"
 #include "doublures/FenetreEssai.h"
 #include "doublures/ToutesFenetres.h"
 #include "shell/MenusCadre.h"
@@ -14,6 +17,47 @@ namespace {
 
 using testing::SizeIs;
 
+constexpr DescriptionFenetre sansOnglet{.nom = "frmSansOnglet",
+                                        .titre = u"Sans onglet",
+                                        .vue = EntreeVue::mesNotes,
+                                        .logo = "logo-notes"};
+
+/// The least that a window without tabs is: what holds for all windows holds for it.
+class frmSansOnglet final : public FenetreEnfant {
+ public:
+  frmSansOnglet(Module1& module, gastrelle::Cadre& cadre)
+      : FenetreEnfant(module, cadre, sansOnglet) {
+    auto* texte = new ZoneTexte("txtEssai", sansLimite, this);
+    auto* boutons = new PiedBoutons;
+    auto* page = new QVBoxLayout(this);
+    page->addWidget(new BandeauLogo(sansOnglet.logo, "Sans onglet", "Un essai", this));
+    page->addWidget(Legende("&Un texte", texte));
+    page->addWidget(texte, 1);
+    page->addLayout(boutons);
+    boutons->Aide("cmdAide");
+  }
+};
+
+std::vector<LigneEssai> AvecUneSansOnglet() {
+  std::vector<LigneEssai> lignes(ToutesLesFenetres().begin(), ToutesLesFenetres().end());
+  lignes.push_back({"frmSansOnglet",
+                    "mnuViewMesNotes",
+                    "MesNotes",
+                    90,
+                    {},
+                    {"txtEssai cmdAide"},
+                    [](Module1& module, gastrelle::Cadre& cadre) -> std::unique_ptr<FenetreEnfant> {
+                      return std::make_unique<frmSansOnglet>(module, cadre);
+                    }});
+  return lignes;
+}
+
+std::vector<LigneEssai> AvecOnglets() {
+  std::vector<LigneEssai> lignes(ToutesLesFenetres().begin(), ToutesLesFenetres().end());
+  std::erase_if(lignes, [](const LigneEssai& ligne) { return ligne.onglets() == 1; });
+  return lignes;
+}
+
 class Fenetres : public FenetreEssai<FenetreEnfant>,
                  public testing::WithParamInterface<LigneEssai> {
  protected:
@@ -21,8 +65,11 @@ class Fenetres : public FenetreEssai<FenetreEnfant>,
 
   std::unique_ptr<FenetreEnfant> Cree() override { return ligne.cree(*b.module, *cadre); }
 
-  FenetreOnglets& hote() { return dynamic_cast<FenetreOnglets&>(*fenetre); }
-  QWidget& Page(int onglet) { return Le(("Frame1(" + std::to_string(onglet) + ")").c_str()); }
+  QWidget& Page(int onglet) {
+    return fenetre->findChild<QTabBar*>() == nullptr
+               ? *fenetre
+               : Le(("Frame1(" + std::to_string(onglet) + ")").c_str());
+  }
   QStringList PagesFaites() {
     QStringList noms;
     const auto& cadres = *fenetre->findChild<QStackedWidget*>();
@@ -44,16 +91,20 @@ class Fenetres : public FenetreEssai<FenetreEnfant>,
     throw std::runtime_error("pas de bouton d'aide");
   }
 
-  /// The controls that the key Tab visits, from the strip of tabs on and until it is back there.
-  std::vector<QWidget*> TourDuClavier() {
-    constexpr std::size_t plusQueTous = 40;
-    QWidget& onglets = Le("TabStrip1");
-    onglets.setFocus();
+  /// The controls that the key Tab visits, from behind the help button on and until it is back
+  /// there. The strip of tabs comes first, and isn't told.
+  std::vector<QWidget*> TourDuClavier(int onglet) {
+    constexpr std::size_t plusQueTous = 100;
+    QWidget& aide = BoutonAide(onglet);
+    aide.setFocus();
     std::vector<QWidget*> tour;
-    for (QTest::keyClick(&onglets, Qt::Key_Tab);
-         fenetre->focusWidget() != &onglets && tour.size() < plusQueTous;
-         QTest::keyClick(fenetre->focusWidget(), Qt::Key_Tab)) {
+    do {
+      QTest::keyClick(fenetre->focusWidget(), Qt::Key_Tab);
       tour.push_back(fenetre->focusWidget());
+    } while (tour.back() != &aide && tour.size() < plusQueTous);
+    if (auto* bande = fenetre->findChild<QTabBar*>()) {
+      EXPECT_EQ(tour.front(), bande);
+      std::erase(tour, bande);
     }
     return tour;
   }
@@ -102,17 +153,25 @@ class Fenetres : public FenetreEssai<FenetreEnfant>,
   const LigneEssai& ligne = GetParam();
 };
 
-INSTANTIATE_TEST_SUITE_P(Toutes, Fenetres,
-                         testing::ValuesIn(ToutesLesFenetres().begin(), ToutesLesFenetres().end()),
+INSTANTIATE_TEST_SUITE_P(Toutes, Fenetres, testing::ValuesIn(AvecUneSansOnglet()),
+                         testing::PrintToStringParamName());
+
+class FenetresAOnglets : public Fenetres {};
+
+INSTANTIATE_TEST_SUITE_P(Toutes, FenetresAOnglets, testing::ValuesIn(AvecOnglets()),
                          testing::PrintToStringParamName());
 
 TEST_P(Fenetres, PortentLeurNom) {
   Ouvre();
   EXPECT_EQ(fenetre->objectName(), ligne.nom);
+}
+
+TEST_P(FenetresAOnglets, OntLeursOnglets) {
+  Ouvre();
   EXPECT_EQ(Le<QTabBar>("TabStrip1").count(), ligne.onglets());
 }
 
-TEST_P(Fenetres, UnePageSeFaitQuandOnYEntreEtUneFois) {
+TEST_P(FenetresAOnglets, UnePageSeFaitQuandOnYEntreEtUneFois) {
   Ouvre();
   EXPECT_EQ(PagesFaites(), QStringList{"Frame1(1)"});
   CliqueOnglet(*fenetre, 2);
@@ -126,7 +185,7 @@ TEST_P(Fenetres, AucunePageNAgranditLaFenetre) {
   const QSize moindre = fenetre->minimumSizeHint();
   const QSize naturelle = fenetre->sizeHint();
   for (int onglet = 2; onglet <= ligne.onglets(); ++onglet) {
-    CliqueOnglet(*fenetre, onglet);
+    VaA(onglet);
     EXPECT_EQ(fenetre->minimumSizeHint(), moindre) << onglet;
     EXPECT_EQ(fenetre->sizeHint(), naturelle) << onglet;
   }
@@ -135,18 +194,18 @@ TEST_P(Fenetres, AucunePageNAgranditLaFenetre) {
 TEST_P(Fenetres, ChaqueOngletPoseSonContexte) {
   Ouvre();
   for (int onglet = 1; onglet <= ligne.onglets(); ++onglet) {
-    CliqueOnglet(*fenetre, onglet);
+    VaA(onglet);
     EXPECT_EQ(cadre->contextes.back(), ligne.premierContexte + onglet - 1);
   }
 }
 
-TEST_P(Fenetres, UnChangementDOngletPasseOuSeRefuseParLeSon) {
+TEST_P(FenetresAOnglets, UnChangementDOngletPasseOuSeRefuseParLeSon) {
   Ouvre();
   std::size_t sons = 0;
   for (int de = 1; de <= ligne.onglets(); ++de) {
     for (int vers = 1; vers <= ligne.onglets(); ++vers) {
       SCOPED_TRACE(std::to_string(de) + " > " + std::to_string(vers));
-      hote().MontreOnglet(de);
+      VaA(de);
       CliqueOnglet(*fenetre, vers);
       const bool refuse = Refuse(de, vers);
       sons += refuse ? 1 : 0;
@@ -165,8 +224,8 @@ TEST_P(Fenetres, LaToucheTabVisiteChaquePageDeHautEnBas) {
   Ouvre();
   for (int onglet = 1; onglet <= ligne.onglets(); ++onglet) {
     SCOPED_TRACE(onglet);
-    CliqueOnglet(*fenetre, onglet);
-    const std::vector<QWidget*> tour = TourDuClavier();
+    VaA(onglet);
+    const std::vector<QWidget*> tour = TourDuClavier(onglet);
     QStringList noms;
     for (const QWidget* controle : tour) {
       noms << controle->objectName();
@@ -196,7 +255,7 @@ TEST_P(Fenetres, ChaquePageAUnBoutonDAideQuiEnvoieLaToucheF1) {
   ASSERT_TRUE(QTest::qWaitForWindowActive(fenetre.get()));
   const EcouteF1 ecoute;
   for (int onglet = 1; onglet <= ligne.onglets(); ++onglet) {
-    CliqueOnglet(*fenetre, onglet);
+    VaA(onglet);
     Clique(BoutonAide(onglet));
     EXPECT_EQ(ecoute.appuis, onglet);
     EXPECT_EQ(BoutonAide(onglet).toolTip(), "Aide");

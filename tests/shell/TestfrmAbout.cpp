@@ -115,6 +115,12 @@ TEST_F(APropos, UnClicEcritUnCourrier) {
   EXPECT_THAT(b.association.cibles, ElementsAre("mailto:" + Adresse(Lien::courrier).toStdString()));
 }
 
+TEST_F(APropos, UneAutreAdresseSOuvreCommeCelleDuLien) {
+  OuvreLien(*b.module, Lien::courrier, "a@b.fr");
+  OuvreLien(*b.module, Lien::site, "https://b.fr");
+  EXPECT_THAT(b.association.cibles, ElementsAre("mailto:a@b.fr", "https://b.fr"));
+}
+
 TEST_F(APropos, LeBoutonDroitNOuvreRien) {
   QTest::mouseClick(&Trouve(*dialogue, "lblAdresselWeb"), Qt::RightButton);
   EXPECT_THAT(b.association.cibles, IsEmpty());

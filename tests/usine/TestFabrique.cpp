@@ -57,7 +57,7 @@ class Fabrique : public testing::Test {
   static std::vector<std::string> Textes(FichierEnregistrements<T>& fichier, Reserve& reserve) {
     std::vector<std::string> textes;
     for (const T& fiche : Fiches(fichier)) {
-      textes.push_back(reserve.Lire(fiche.posTexte, fiche.lgTexte));
+      textes.push_back(reserve.Lit(fiche.posTexte, fiche.lgTexte));
       EXPECT_THAT(textes.back(), SizeIs(fiche.lgTexte));
     }
     return textes;
@@ -76,7 +76,7 @@ class Fabrique : public testing::Test {
     std::vector<Annee> annees;
     for (std::int64_t numero = 1; numero <= m->bufMillesime.Nombre(); ++numero) {
       RecMillesime e;
-      m->bufMillesime.Lire(numero, e);
+      m->bufMillesime.Lit(numero, e);
       annees.push_back(std::apply([&](const auto&... champ) { return Annee{(e.*champ.membre)...}; },
                                   champs<RecMillesime>));
     }
@@ -149,7 +149,7 @@ TEST_F(Fabrique, DonneAuMoinsUnVinAChaqueRegion) {
 
 TEST_F(Fabrique, DonneUneAdresseAChaqueFavori) {
   for (const RecFavori& favori : Fiches(m->bufFavori)) {
-    EXPECT_THAT(m->textesFavoris.Lire(favori.posAdresse, favori.lgAdresse),
+    EXPECT_THAT(m->textesFavoris.Lit(favori.posAdresse, favori.lgAdresse),
                 SizeIs(AllOf(Ge(1U), Le(512U))));
     EXPECT_THAT(favori.idCategorie, AllOf(Ge(2), Le(4)));
   }
@@ -179,7 +179,7 @@ TEST_F(Fabrique, LaisseLesRayonsVides) {
 TEST_F(Fabrique, ListeDesRecettesDansChaqueFamille) {
   std::size_t recettes = 0;
   for (const auto& famille : ListeFamilles(*m)) {
-    const Liste liste = RecettesDeFamille(*m, famille.donnee);
+    const Liste liste = RecettesDeFamille(*m, famille.numero);
     EXPECT_FALSE(liste.empty()) << VersUtf8(famille.texte);
     recettes += liste.size();
   }
@@ -188,7 +188,7 @@ TEST_F(Fabrique, ListeDesRecettesDansChaqueFamille) {
 
 TEST_F(Fabrique, MontreUneImageAChaqueRecette) {
   for (const auto& entree : ToutesRecettes(*m)) {
-    const RecetteLue recette = LitRecette(*m, entree.donnee);
+    const RecetteLue recette = LitRecette(*m, entree.numero);
     EXPECT_TRUE(recette.associee) << VersUtf8(entree.texte);
     EXPECT_EQ(recette.imagePerdue, std::nullopt);
     std::ifstream image(VersUtf8(recette.image), std::ios::binary);
@@ -202,7 +202,7 @@ TEST_F(Fabrique, MontreUneImageAChaqueRecette) {
 TEST_F(Fabrique, DonneUneImageAChaqueFamille) {
   std::set<std::string> images;
   for (const RecRecette& recette : Fiches(m->bufRecette)) {
-    images.insert(m->cheminsImages.Lire(recette.posImage, recette.lgImage));
+    images.insert(m->cheminsImages.Lit(recette.posImage, recette.lgImage));
   }
   EXPECT_EQ(images.size(), Fiches(m->bufFamille).size());
   EXPECT_THAT(images, Each(StartsWith("/")));

@@ -230,7 +230,7 @@ TEST_P(ChangementDesFiches, ToutesLesAutresSupprimeesLeFichierGardeSaLongueur) {
 TEST_P(ChangementDesFiches, LeCompteQuiNeTientPlusEstUnePanne) {
   Demarre();
   PoseCompte(b, Nom(c.fiches), 32767);
-  (*b.module.*c.fichiers.tampon).LireEntete();
+  (*b.module.*c.fichiers.tampon).LitEntete();
   EXPECT_THROW(AjouteFiche(*b.module, c.fichiers, "Trop", {}), ErreurExecution);
 }
 

@@ -32,7 +32,7 @@ class LectureDesFiches : public testing::TestWithParam<CatalogueEssai> {
     RecFiche fiche = Fiche(b, c, numero);
     fiche.posTexte = position;
     fiche.lgTexte = longueur;
-    (*b.module.*c.fichiers.tampon).Ecrire(numero, fiche);
+    (*b.module.*c.fichiers.tampon).Ecrit(numero, fiche);
   }
 
   const CatalogueEssai& c = GetParam();

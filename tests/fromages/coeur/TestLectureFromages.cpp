@@ -25,7 +25,7 @@ class LectureDesFromages : public testing::Test {
     b.Demarre();
     RecFromage fiche = FicheFromage(b, 124);
     change(fiche);
-    b.module->bufFromage.Ecrire(124, fiche);
+    b.module->bufFromage.Ecrit(124, fiche);
     b.disque.OublieJournal();
   }
 

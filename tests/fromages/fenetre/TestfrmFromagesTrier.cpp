@@ -163,7 +163,7 @@ TEST_F(TrierLesFromages, UnFromageQueLaListeNAPasNAfficheRien) {
   OuvreAvecDeuxChevres();
   RecFromage cache = Fromage("Rocamadour", "", 2);
   cache.actif = -1;
-  b.module->bufFromage.Ecrire(127, cache);
+  b.module->bufFromage.Ecrit(127, cache);
   b.module->bufFromage.nbActifs() = 126;
   Choisit(lait(), 2);
   DoubleClique(1);

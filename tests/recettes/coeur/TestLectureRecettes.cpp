@@ -25,7 +25,7 @@ class Lecture : public testing::Test {
     fiche.lgTexte = lgTexte;
     fiche.posImage = posImage;
     fiche.lgImage = lgImage;
-    b.module->bufRecette.Ecrire(2, fiche);
+    b.module->bufRecette.Ecrit(2, fiche);
     b.disque.OublieJournal();
   }
   [[nodiscard]] RecRecette Fiche() const {

@@ -64,7 +64,7 @@ class FenetreRecettes : public FenetreEssai<frmRecettes> {
   void Deplace(std::int32_t recette, std::int32_t famille) {
     RecRecette deplacee = Fiche(static_cast<std::size_t>(recette));
     deplacee.idFamille = famille;
-    b.module->bufRecette.Ecrire(recette, deplacee);
+    b.module->bufRecette.Ecrit(recette, deplacee);
     b.disque.OublieJournal();
   }
   RecFamille FicheFamille(std::size_t numero) const {

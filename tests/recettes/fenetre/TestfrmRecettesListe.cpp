@@ -140,7 +140,7 @@ TEST_F(Liste, UneImageSansCheminEstDiteEtDelieeSansToucherAuPermisDuCadre) {
   OuvreSurUneImage();
   RecRecette cassee = Fiche(2);
   cassee.posImage = 9;
-  b.module->bufRecette.Ecrire(2, cassee);
+  b.module->bufRecette.Ecrit(2, cassee);
   b.disque.OublieJournal();
   Choisit(recettes(), Fr("Velouté"));
   AttendMessage("Le fichier image\r\n\r\nn'a pas été trouvé.", Icone::exclamation);

@@ -1,0 +1,16 @@
+// The caption of a control.
+#pragma once
+
+#include <QLabel>
+
+namespace gastrelle {
+
+/// A caption above or beside a control, which its access key and screen readers follow.
+inline QLabel* Legende(QString texte, QWidget* pour) {
+  auto* legende = new QLabel(texte, pour->parentWidget());
+  legende->setBuddy(pour);
+  pour->setAccessibleName(texte.remove(u'&'));
+  return legende;
+}
+
+}  // namespace gastrelle
