@@ -17,7 +17,7 @@ namespace gastrelle {
 inline constexpr std::int32_t numeroProtege = DernierProtege(Donnees::GLR2);
 static_assert(numeroProtege == DernierProtege(Donnees::GLR1));
 
-/// What the user entered for a recipe; all texts are trimmed.
+/// What the user entered for a recipe; title and text are trimmed.
 struct RecetteSaisie {
   std::int32_t idFamille = 0;
   std::string titre;
@@ -32,7 +32,7 @@ std::int32_t AjouteFamille(Module1& module, std::string_view nom);
 /// isn't): a pool only if there is a text or a picture to put into it.
 void ExigePourAjout(Module1& module, bool avecTexte, bool avecImage);
 
-/// Puts a new recipe behind the last record. Returns its number.
+/// Puts a new recipe behind the last record, after ExigePourAjout. Returns its number.
 std::int32_t AjouteRecette(Module1& module, const RecetteSaisie& saisie);
 
 /// Writes a family's new name at its number.

@@ -85,7 +85,8 @@ void frmRecettesSupprimer::Entre() {
 }
 
 void frmRecettesSupprimer::Supprime() {
-  std::string question("Etes-vous sûr de vouloir supprimer cette "_1252);
+  std::string question;
+  question += "Etes-vous sûr de vouloir supprimer cette "_1252;
   question += modes_.premier() ? "'Famille de recettes' ?" : "'Recette' ?";
   if (modes_.premier()) {
     question +=

@@ -34,7 +34,7 @@ constexpr std::array<Commutes, nombreColonnes> commutes{{
 }};
 
 template <class T>
-T& Nomme(const std::map<QString, T*>& table, const char* nom) {
+T& Trouve(const std::map<QString, T*>& table, const char* nom) {
   const auto trouve = table.find(QString::fromLatin1(nom));
   if (trouve == table.end()) {
     throw std::invalid_argument(std::string("ni entrée, ni menu, ni bouton : ") + nom);
@@ -140,17 +140,17 @@ void BarresCadre::Permet(Colonne colonne, bool permise) {
   }
   for (const char* bouton : {c.bouton, c.autreBouton}) {
     if (bouton != nullptr) {
-      Nomme(boutons_, bouton).setEnabled(permise);
+      Trouve(boutons_, bouton).setEnabled(permise);
     }
   }
 }
 
 QAction& BarresCadre::Entree(const char* nom) const {
-  return Nomme(entrees_, nom);
+  return Trouve(entrees_, nom);
 }
 
 QMenu& BarresCadre::Menu(const char* nom) const {
-  return Nomme(menus_, nom);
+  return Trouve(menus_, nom);
 }
 
 }  // namespace gastrelle

@@ -18,8 +18,8 @@ class BarresCadre {
  public:
   explicit BarresCadre(QMainWindow& cadre);
 
-  /// What an entry does, and every button that stands for it. A name that isn't in the tables
-  /// raises std::invalid_argument, here and below: the program then doesn't start.
+  /// What an entry does, and every button that stands for it. Here and below, a name that isn't in
+  /// the tables raises std::invalid_argument.
   void SurCommande(const char* entree, std::function<void()> commande);
 
   /// Sets the entries and buttons of the pattern's columns.
