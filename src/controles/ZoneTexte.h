@@ -66,13 +66,10 @@ class LigneTexte final : public QLineEdit {
   int limite_;
 };
 
-/// Takes the blanks off both ends of a box's text. A box without any isn't touched: cursor and undo
-/// steps stay.
+/// Takes the blanks off both ends of a box's text, which is set anew: the cursor goes to its start.
 template <class Boite>
 void RogneTexte(Boite& boite) {
-  if (const std::string texte = boite.Texte(); Rogne(texte) != texte) {
-    boite.PoseTexte(Rogne(texte));
-  }
+  boite.PoseTexte(std::string(Rogne(boite.Texte())));
 }
 
 /// True if a text box (of one line or several) holds nothing.

@@ -146,14 +146,6 @@ TYPED_TEST(Boites, RognentLesBlancsEtEuxSeuls) {
   EXPECT_EQ(this->boite->Texte(), "\xA0soupe");
 }
 
-TYPED_TEST(Boites, SansBlancARognerNeSontPasTouchees) {
-  this->Montre(sansLimite);
-  Tape(*this->boite, "soupe");
-  RogneTexte(*this->boite);
-  this->boite->undo();
-  EXPECT_EQ(this->boite->Texte(), "");
-}
-
 TYPED_TEST(Boites, EnLectureSeuleSeSelectionnentSansSeChanger) {
   this->Montre(sansLimite);
   this->boite->PoseTexte("soupe");
