@@ -14,9 +14,7 @@ frmFromagesAjouter::frmFromagesAjouter(const PlaceOnglet& place, frmFromagesList
 }
 
 void frmFromagesAjouter::Entre() {
-  txtFromage->PoseTexte({});
-  txtRegion->PoseTexte({});
-  txtNotes->PoseTexte({});
+  VideBoites({{txtFromage, txtRegion, txtNotes}});
   MontreCodes(0, 0, 0);
   DonneFocus(txtFromage);
 }
