@@ -36,6 +36,7 @@ ZoneTexte* Annonce(const QString& nom, QWidget* parent) {
   boite->RendLectureSeule();
   boite->setFrameShape(QFrame::NoFrame);
   boite->setFocusPolicy(Qt::NoFocus);
+  boite->viewport()->setBackgroundRole(QPalette::Window);
   boite->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   boite->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   boite->setLineWrapMode(QPlainTextEdit::NoWrap);

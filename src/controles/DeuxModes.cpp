@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "controles/Focus.h"
-#include "controles/ZoneTexte.h"
+#include "controles/BoitesTexte.h"
 
 namespace gastrelle {
 

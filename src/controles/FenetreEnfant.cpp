@@ -5,7 +5,7 @@
 #include <QCloseEvent>
 
 #include "controles/Focus.h"
-#include "controles/ZoneTexte.h"
+#include "controles/BoitesTexte.h"
 #include "data/ProceduresFichiers.h"
 
 namespace gastrelle {

@@ -3,9 +3,6 @@
 #include <algorithm>
 
 #include <QApplication>
-#include <QClipboard>
-#include <QKeyEvent>
-#include <QMenu>
 #include <QTextBlock>
 #include <QTextCursor>
 
@@ -13,15 +10,6 @@
 
 namespace gastrelle {
 namespace {
-
-constexpr int sansLimiteQt = 32767;
-
-/// The look of what can be read and copied, not changed.
-void PeintLectureSeule(QWidget* boite) {
-  QPalette palette = boite->palette();
-  palette.setColor(QPalette::Base, palette.color(QPalette::Window));
-  boite->setPalette(palette);
-}
 
 /// A foreign file may hold a line feed or a carriage return alone: they break no line as CR LF
 /// does, and come back as they were. On the screen these stand for them.
@@ -45,14 +33,6 @@ QString TexteBrut(const QTextDocument& document) {
       .replace(lfSeul, QChar(u'\n'))
       .replace(crSeul, QChar(u'\r'))
       .replace(QChar::ParagraphSeparator, QStringLiteral("\r\n"));
-}
-
-/// What a pasted text is in a box of one line: its line breaks and tabs are blanks.
-QString UneLigne(QString texte) {
-  for (const char16_t separateur : {u'\r', u'\n', u'\t', u'\x2028', u'\x2029'}) {
-    texte.replace(QChar(separateur), QChar(u' '));
-  }
-  return texte;
 }
 
 /// Length as stored: a line break is two characters.
@@ -87,7 +67,6 @@ std::string ZoneTexte::Texte() const {
 void ZoneTexte::RendLectureSeule() {
   setReadOnly(true);
   setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-  PeintLectureSeule(this);
 }
 
 void ZoneTexte::Corrige() {
@@ -131,97 +110,6 @@ void ZoneTexte::CorrigePassage(int debut, int fin) {
     passage.insertText(garde);
     passage.endEditBlock();
     setTextCursor(passage);
-  }
-}
-
-LigneTexte::LigneTexte(const QString& nom, int limite, QWidget* parent)
-    : QLineEdit(parent), limite_(limite > 0 ? limite : sansLimiteQt) {
-  setObjectName(nom);
-  setMaxLength(limite_);
-  connect(this, &QLineEdit::textEdited, this, [this](const QString& saisi) { Corrige(saisi); });
-}
-
-void LigneTexte::PoseTexte(std::string_view texte) {
-  setMaxLength(std::max(limite_, static_cast<int>(texte.size())));
-  setText(VersQt(texte));
-  setCursorPosition(0);
-}
-
-std::string LigneTexte::Texte() const {
-  return DepuisQt(text());
-}
-
-void LigneTexte::RendLectureSeule() {
-  setReadOnly(true);
-  PeintLectureSeule(this);
-}
-
-void LigneTexte::Insere(const QString& texte) {
-  insert(texte.normalized(QString::NormalizationForm_C));
-}
-
-void LigneTexte::paste() {
-  Insere(QApplication::clipboard()->text());
-}
-
-void LigneTexte::keyPressEvent(QKeyEvent* touche) {
-  if (touche->matches(QKeySequence::Paste) && !isReadOnly()) {
-    paste();
-  } else {
-    QLineEdit::keyPressEvent(touche);
-  }
-}
-
-void LigneTexte::contextMenuEvent(QContextMenuEvent* evenement) {
-  QMenu* menu = createStandardContextMenu();
-  menu->setAttribute(Qt::WA_DeleteOnClose);
-  for (QAction* action : menu->actions()) {
-    if (action->text().section(u'\t', 0, 0) == QLineEdit::tr("&Paste")) {
-      action->disconnect(this);
-      connect(action, &QAction::triggered, this, &LigneTexte::paste);
-    }
-  }
-  menu->popup(evenement->globalPos());
-}
-
-void LigneTexte::mouseReleaseEvent(QMouseEvent* evenement) {
-  if (evenement->button() == Qt::MiddleButton && !isReadOnly()) {
-    deselect();
-    Insere(QApplication::clipboard()->text(QClipboard::Selection));
-  } else {
-    QLineEdit::mouseReleaseEvent(evenement);
-  }
-}
-
-void LigneTexte::Corrige(const QString& saisi) {
-  bool perte = false;
-  const QString garde = UneLigne(Acceptable(saisi, perte));
-  if (perte) {
-    QApplication::beep();
-  }
-  if (garde != saisi) {
-    bool ignoree = false;
-    const auto curseur = Acceptable(saisi.left(cursorPosition()), ignoree).size();
-    selectAll();
-    insert(garde);
-    setCursorPosition(static_cast<int>(curseur));
-  }
-}
-
-bool EstVide(const QWidget& boite) {
-  if (const auto* zone = dynamic_cast<const ZoneTexte*>(&boite)) {
-    return zone->document()->isEmpty();
-  }
-  return dynamic_cast<const LigneTexte&>(boite).text().isEmpty();
-}
-
-void VideBoites(std::span<QWidget* const> boites) {
-  for (QWidget* boite : boites) {
-    if (auto* zone = dynamic_cast<ZoneTexte*>(boite)) {
-      zone->PoseTexte({});
-    } else {
-      dynamic_cast<LigneTexte&>(*boite).PoseTexte({});
-    }
   }
 }
 

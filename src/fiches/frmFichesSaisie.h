@@ -3,7 +3,7 @@
 #pragma once
 
 #include "controles/PageOnglet.h"
-#include "controles/ZoneTexte.h"
+#include "controles/BoitesTexte.h"
 #include "fiches/frmFichesDescription.h"
 
 namespace gastrelle {

@@ -1,7 +1,7 @@
 // A page of the cheeses window that shows a cheese: boxes that can be read and copied, not changed.
 #pragma once
 
-#include "controles/ZoneTexte.h"
+#include "controles/BoitesTexte.h"
 #include "fromages/CatalogueFromages.h"
 #include "fromages/frmFromagesPage.h"
 

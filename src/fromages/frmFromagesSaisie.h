@@ -2,7 +2,7 @@
 #pragma once
 
 #include "controles/ComboListe.h"
-#include "controles/ZoneTexte.h"
+#include "controles/BoitesTexte.h"
 #include "fromages/CatalogueFromages.h"
 #include "fromages/frmFromagesPage.h"
 

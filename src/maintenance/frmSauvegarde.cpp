@@ -6,7 +6,7 @@
 #include "controles/Boutons.h"
 #include "controles/Conversion.h"
 #include "controles/Touches.h"
-#include "controles/ZoneTexte.h"
+#include "controles/BoitesTexte.h"
 #include "maintenance/Sauvegarde.h"
 
 namespace gastrelle {

@@ -8,7 +8,7 @@
 
 #include "controles/ComboListe.h"
 #include "controles/PageOnglet.h"
-#include "controles/ZoneTexte.h"
+#include "controles/BoitesTexte.h"
 #include "recettes/ChangementRecettes.h"
 
 namespace gastrelle {

@@ -3,7 +3,7 @@
 #include <QApplication>
 #include <QClipboard>
 
-#include "controles/ZoneTexte.h"
+#include "controles/BoitesTexte.h"
 
 namespace gastrelle {
 namespace {

@@ -14,7 +14,7 @@
 #include "controles/Conversion.h"
 #include "controles/Icones.h"
 #include "controles/Touches.h"
-#include "controles/ZoneTexte.h"
+#include "controles/BoitesTexte.h"
 
 namespace gastrelle {
 namespace {

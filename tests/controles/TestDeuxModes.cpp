@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "controles/DeuxModes.h"
-#include "controles/ZoneTexte.h"
+#include "controles/BoitesTexte.h"
 #include "doublures/Ecran.h"
 
 namespace gastrelle::essai {

@@ -6,7 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "controles/FenetreEnfant.h"
-#include "controles/ZoneTexte.h"
+#include "controles/BoitesTexte.h"
 #include "doublures/Bibliotheque.h"
 #include "doublures/CadreEssai.h"
 #include "doublures/Ecran.h"

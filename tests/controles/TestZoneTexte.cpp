@@ -8,7 +8,7 @@
 #include <gtest/gtest.h>
 
 #include "controles/Conversion.h"
-#include "controles/ZoneTexte.h"
+#include "controles/BoitesTexte.h"
 #include "doublures/Ecran.h"
 #include "doublures/EcranVirtuel.h"
 #include "doublures/ServicesEssai.h"
