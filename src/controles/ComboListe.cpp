@@ -1,5 +1,8 @@
 #include "controles/ComboListe.h"
 
+#include <QStyleOptionComboBox>
+
+#include "controles/StyleGastrelle.h"
 #include "data/Texte1252.h"
 #include "plateforme/ErreurExecution.h"
 
@@ -81,6 +84,12 @@ int ComboListe::Ajoute(const EntreeListe& entree) {
 void ComboListe::Vide() {
   modele_.Vide();
   setCurrentIndex(-1);
+}
+
+bool ComboListe::TitreAbrege() const {
+  QStyleOptionComboBox option;
+  initStyleOption(&option);
+  return option.fontMetrics.horizontalAdvance(option.currentText) > PlaceTitre(option, *this);
 }
 
 std::int32_t ComboListe::NumeroChoisi() const {

@@ -42,6 +42,9 @@ class ComboListe final : public QComboBox {
   /// Text of the chosen entry, Windows-1252 and trimmed as all names are; empty when there is none.
   [[nodiscard]] std::string Texte() const;
 
+  /// True if the closed list is too narrow for the chosen title.
+  [[nodiscard]] bool TitreAbrege() const;
+
   /// Opens the list, whose view is made the first time.
   void showPopup() override;
 

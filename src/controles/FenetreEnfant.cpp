@@ -4,8 +4,9 @@
 
 #include <QCloseEvent>
 
-#include "controles/Focus.h"
 #include "controles/BoitesTexte.h"
+#include "controles/Focus.h"
+#include "controles/TailleLecture.h"
 #include "data/ProceduresFichiers.h"
 
 namespace gastrelle {
@@ -14,6 +15,8 @@ FenetreEnfant::FenetreEnfant(Module1& module, Cadre& cadre, const DescriptionFen
     : module_(module), cadre_(cadre), description_(description) {
   setObjectName(QLatin1String(description.nom));
   setWindowTitle(QString::fromUtf16(description.titre));
+  BrancheTouchesLecture(*this);
+  BrancheTouchesLecture(*this);
 }
 
 void FenetreEnfant::Active() {

@@ -1,8 +1,14 @@
 #include "controles/StyleGastrelle.h"
 
-#include <QStyleOptionComboBox>
-
 namespace gastrelle {
+
+int PlaceTitre(const QStyleOptionComboBox& combo, const QWidget& controle) {
+  constexpr int marges = 4;
+  return controle.style()
+             ->subControlRect(QStyle::CC_ComboBox, &combo, QStyle::SC_ComboBoxEditField, &controle)
+             .width() -
+         marges;
+}
 
 int StyleGastrelle::styleHint(StyleHint indice, const QStyleOption* option, const QWidget* controle,
                               QStyleHintReturn* retour) const {
@@ -22,11 +28,9 @@ void StyleGastrelle::drawControl(ControlElement element, const QStyleOption* opt
     return;
   }
   // A title that is too long for its list ends in "…", not in half a letter.
-  constexpr int marges = 4;
   QStyleOptionComboBox abrege = *combo;
-  const int place =
-      subControlRect(CC_ComboBox, combo, SC_ComboBoxEditField, controle).width() - marges;
-  abrege.currentText = combo->fontMetrics.elidedText(combo->currentText, Qt::ElideRight, place);
+  abrege.currentText = combo->fontMetrics.elidedText(combo->currentText, Qt::ElideRight,
+                                                     PlaceTitre(*combo, *controle));
   QProxyStyle::drawControl(element, &abrege, peintre, controle);
 }
 

@@ -2,8 +2,12 @@
 #pragma once
 
 #include <QProxyStyle>
+#include <QStyleOptionComboBox>
 
 namespace gastrelle {
+
+/// The width, in pixels, that a closed drop-down list leaves to its title.
+int PlaceTitre(const QStyleOptionComboBox& combo, const QWidget& controle);
 
 class StyleGastrelle final : public QProxyStyle {
  public:

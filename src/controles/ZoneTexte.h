@@ -14,7 +14,7 @@ namespace gastrelle {
 
 /// Several lines, with a vertical scroll bar. A line break counts as two characters against the
 /// limit; a text set from code is shown whole, whatever the limit.
-class ZoneTexte final : public QPlainTextEdit {
+class ZoneTexte : public QPlainTextEdit {
  public:
   /// `limite` in characters, told as the property `maxLength`; 0: none.
   ZoneTexte(const QString& nom, int limite, QWidget* parent = nullptr);

@@ -1,6 +1,8 @@
 #include "fiches/frmFichesListe.h"
 
+#include "controles/FeuilleTexte.h"
 #include "controles/Focus.h"
+#include "controles/TitreEntier.h"
 #include "data/Limites.h"
 #include "data/ProceduresFichiers.h"
 
@@ -10,11 +12,12 @@ frmFichesListe::frmFichesListe(const PlaceOnglet& place, const DescriptionFiches
     : PageOnglet(place),
       description(fiches),
       combo(new ComboListe(QLatin1String(description.liste.titre), Ordre::alphabetique, this)),
-      texte(new ZoneTexte(QLatin1String(description.liste.texte), limiteTexte, this)) {
+      texte(new FeuilleTexte(QLatin1String(description.liste.texte), limiteTexte, this)) {
   const DescriptionSaisie& controles = description.liste;
   texte->RendLectureSeule();
   combo->setToolTip(QString::fromUtf16(controles.infobulleTitre));
   AjouteDessous(QString::fromUtf16(controles.legendeTitre), combo);
+  contenu().addWidget(new TitreEntier(*combo, this), contenu().rowCount(), 0);
   contenu().setRowStretch(AjouteDessous(QString::fromUtf16(controles.legendeTexte), texte), 1);
   boutons().Aide("cmdAideListe");
   combo->surChoix = [this] { Affiche(); };

@@ -1,5 +1,6 @@
 #include "fiches/frmFichesSaisie.h"
 
+#include "controles/FeuilleTexte.h"
 #include "data/Limites.h"
 #include "fiches/frmFichesListe.h"
 
@@ -11,7 +12,7 @@ frmFichesSaisie::frmFichesSaisie(const PlaceOnglet& place, frmFichesListe& laLis
       liste(laListe),
       description(laListe.description),
       titre(new LigneTexte(QLatin1String((description.*controles).titre), limiteNom, this)),
-      texte(new ZoneTexte(QLatin1String((description.*controles).texte), limiteTexte, this)) {
+      texte(new FeuilleTexte(QLatin1String((description.*controles).texte), limiteTexte, this)) {
   const DescriptionSaisie& siens = description.*controles;
   titre->setToolTip(QString::fromUtf16(siens.infobulleTitre));
   texte->setToolTip(QString::fromUtf16(siens.infobulleTexte));

@@ -1,5 +1,7 @@
 #include "fromages/frmFromagesAffichage.h"
 
+#include "controles/FeuilleTexte.h"
+
 namespace gastrelle {
 
 frmFromagesAffichage::frmFromagesAffichage(const PlaceOnglet& place, const QString& suffixe)
@@ -8,7 +10,7 @@ frmFromagesAffichage::frmFromagesAffichage(const PlaceOnglet& place, const QStri
       txtLait(new LigneTexte(QStringLiteral("txtLait") + suffixe, sansLimite, this)),
       txtPremierMois(new LigneTexte(QStringLiteral("txtPremierMois") + suffixe, sansLimite, this)),
       txtDernierMois(new LigneTexte(QStringLiteral("txtDernierMois") + suffixe, sansLimite, this)),
-      txtNotes(new ZoneTexte(QStringLiteral("txtNotes") + suffixe, sansLimite, this)) {
+      txtNotes(new FeuilleTexte(QStringLiteral("txtNotes") + suffixe, sansLimite, this)) {
   for (LigneTexte* boite : {txtRegion, txtLait, txtPremierMois, txtDernierMois}) {
     boite->RendLectureSeule();
   }

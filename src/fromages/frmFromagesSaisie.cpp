@@ -1,5 +1,6 @@
 #include "fromages/frmFromagesSaisie.h"
 
+#include "controles/FeuilleTexte.h"
 #include "data/FichierEnregistrements.h"
 #include "data/Limites.h"
 
@@ -26,7 +27,7 @@ frmFromagesSaisie::frmFromagesSaisie(const PlaceOnglet& place, const QString& su
       ComboLait(Codes(QStringLiteral("ComboLait") + suffixe, laitNoms, this)),
       ComboPremierMois(Codes(QStringLiteral("ComboPremierMois") + suffixe, moisNoms, this)),
       ComboDernierMois(Codes(QStringLiteral("ComboDernierMois") + suffixe, moisNoms, this)),
-      txtNotes(new ZoneTexte(QStringLiteral("txtNotes") + suffixe, limiteTexte, this)) {
+      txtNotes(new FeuilleTexte(QStringLiteral("txtNotes") + suffixe, limiteTexte, this)) {
   Dispose({txtFromage, txtRegion, ComboLait, ComboPremierMois, ComboDernierMois, txtNotes});
 }
 

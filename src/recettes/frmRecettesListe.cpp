@@ -1,7 +1,9 @@
 #include "recettes/frmRecettesListe.h"
 
 #include "controles/Conversion.h"
+#include "controles/FeuilleTexte.h"
 #include "controles/Focus.h"
+#include "controles/TitreEntier.h"
 #include "data/Limites.h"
 #include "data/ProceduresFichiers.h"
 #include "recettes/LectureRecettes.h"
@@ -12,13 +14,17 @@ frmRecettesListe::frmRecettesListe(const PlaceOnglet& place)
     : PageOnglet(place),
       ComboFamilles(new ComboListe(QStringLiteral("ComboFamilles"), Ordre::alphabetique, this)),
       ComboRecettes(new ComboListe(QStringLiteral("ComboRecettes"), Ordre::alphabetique, this)),
-      txtRecette(new ZoneTexte(QStringLiteral("txtRecette"), limiteTexte, this)),
+      txtRecette(new FeuilleTexte(QStringLiteral("txtRecette"), limiteTexte, this)),
       lblLaRecette(Legende(QStringLiteral("La recette"), txtRecette)),
       cmdCameraListe(
           boutons().Ajoute("cmdCameraListe", u"I&mage", "camera",
                            u"Cliquez sur ce bouton pour voir l'image associée à la recette",
-                           [this] { hote().cadre().MontreImage(); })) {
+                           [this] { hote().cadre().MontreImage(); })),
+      imgRecette_(
+          new Vignette(QStringLiteral("imgRecette"), QStringLiteral("Image de la recette"), this)) {
   Dispose();
+  DisposeRecette();
+  imgRecette_->surClic = [this] { cmdCameraListe->click(); };
   familles.Suit(*ComboFamilles);
   RetientImage({});
   ComboFamilles->surChoix = [this] { ChoisitFamille(); };
@@ -32,12 +38,20 @@ void frmRecettesListe::Dispose() {
   contenu().addWidget(Legende(QStringLiteral("Les recettes de la famille"), ComboRecettes), 0, 1);
   contenu().addWidget(ComboFamilles, 1, 0);
   contenu().addWidget(ComboRecettes, 1, 1);
-  contenu().addWidget(lblLaRecette, 2, 0, 1, 2);
-  contenu().addWidget(txtRecette, 3, 0, 1, 2);
   contenu().setColumnStretch(0, 2);
   contenu().setColumnStretch(1, 3);
-  contenu().setRowStretch(3, 1);
   boutons().Aide("cmdAideListe");
+}
+
+void frmRecettesListe::DisposeRecette() {
+  constexpr int rangTexte = 4;
+  auto* recette = new QHBoxLayout;
+  recette->addWidget(txtRecette, 1);
+  recette->addWidget(imgRecette_);
+  contenu().addWidget(lblLaRecette, 2, 0, 1, 2);
+  contenu().addWidget(new TitreEntier(*ComboRecettes, this), 3, 0, 1, 2);
+  contenu().addLayout(recette, rangTexte, 0, 1, 2);
+  contenu().setRowStretch(rangTexte, 1);
 }
 
 void frmRecettesListe::Charge() {
@@ -70,7 +84,10 @@ void frmRecettesListe::ChargeRecettes() {
   if (vide) {
     // The picture's tag and button stay as they were for the recipe shown before.
     txtRecette->PoseTexte({});
+    txtRecette->setPlaceholderText(QStringLiteral("Aucune recette dans cette famille"));
+    MontreImage({});
   } else {
+    txtRecette->setPlaceholderText({});
     ComboRecettes->Choisit(0);
   }
 }
@@ -80,6 +97,7 @@ void frmRecettesListe::AfficheRecette() {
     const RecetteLue lue = LitRecette(module(), ComboRecettes->NumeroChoisi());
     txtRecette->PoseTexte(lue.texte);
     RetientImage(lue.image);
+    MontreImage(lue.image);
     if (lue.imagePerdue) {
       AnnonceImagePerdue(*lue.imagePerdue);
     } else {
@@ -104,6 +122,11 @@ void frmRecettesListe::RetientImage(const std::string& chemin) {
 
 std::string frmRecettesListe::Image() const {
   return DepuisQt(lblLaRecette->property("Tag").toString());
+}
+
+void frmRecettesListe::MontreImage(const std::string& chemin) {
+  imgRecette_->Montre(chemin.empty() ? QString()
+                                     : QString::fromStdString(CheminSysteme(module(), chemin)));
 }
 
 Vue frmRecettesListe::VueCourante() const {

@@ -5,6 +5,7 @@
 #include "controles/ComboListe.h"
 #include "controles/ListePartagee.h"
 #include "controles/PageOnglet.h"
+#include "controles/Vignette.h"
 #include "controles/ZoneTexte.h"
 
 namespace gastrelle {
@@ -38,10 +39,15 @@ class frmRecettesListe final : public PageOnglet {
 
  private:
   void Dispose();
+  void DisposeRecette();
   void ChargeRecettes();
   void AfficheRecette();
   void RetientImage(const std::string& chemin);
   void AnnonceImagePerdue(const std::string& chemin);
+  /// Shows a picture beside the text; an empty path: none.
+  void MontreImage(const std::string& chemin);
+
+  Vignette* imgRecette_;
 };
 
 }  // namespace gastrelle

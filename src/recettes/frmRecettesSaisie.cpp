@@ -1,6 +1,7 @@
 #include "recettes/frmRecettesSaisie.h"
 
 #include "controles/ChoixImage.h"
+#include "controles/FeuilleTexte.h"
 #include "data/Limites.h"
 #include "recettes/ImageRecette.h"
 #include "recettes/frmRecettesListe.h"
@@ -15,7 +16,7 @@ frmRecettesSaisie::frmRecettesSaisie(const PlaceOnglet& place, frmRecettesListe&
       famille(new LigneTexte(QLatin1String(noms.famille), limiteNom, this)),
       familles(new ComboListe(QLatin1String(noms.familles), Ordre::alphabetique, this)),
       titre(new LigneTexte(QLatin1String(noms.titre), limiteNom, this)),
-      texte(new ZoneTexte(QLatin1String(noms.texte), limiteTexte, this)),
+      texte(new FeuilleTexte(QLatin1String(noms.texte), limiteTexte, this)),
       image(new LigneTexte(QLatin1String(noms.image), sansLimite, this)),
       cherche(Bouton(QLatin1String(noms.cherche), QStringLiteral("I&mage..."),
                      QStringLiteral("dossier"), QStringLiteral("Rechercher une image"), this)) {

@@ -2,6 +2,7 @@
 
 #include "controles/ComboListe.h"
 #include "controles/Conversion.h"
+#include "controles/FeuilleTexte.h"
 #include "data/Limites.h"
 #include "data/ProceduresFichiers.h"
 #include "recettes/ChangementRecettes.h"
@@ -35,7 +36,7 @@ frmRecettesSupprimer::frmRecettesSupprimer(const PlaceOnglet& place, frmRecettes
       lblFamilleRecetteSupprimer_(Valeur(QStringLiteral("lblFamilleRecetteSupprimer"), this)),
       lblTitreRecetteSupprimer_(Valeur(QStringLiteral("lblTitreRecetteSupprimer"), this)),
       txtTexteRecetteSupprimer_(
-          new ZoneTexte(QStringLiteral("txtTexteRecetteSupprimer"), limiteTexte, this)),
+          new FeuilleTexte(QStringLiteral("txtTexteRecetteSupprimer"), limiteTexte, this)),
       cmdSupprimer_(boutons().Supprime("cmdSupprimer", u"", [this] { Supprime(); })) {
   boutons().Aide("cmdAideSupprimer");
   txtTexteRecetteSupprimer_->RendLectureSeule();

@@ -3,8 +3,8 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
-#include "controles/DeuxModes.h"
 #include "controles/BoitesTexte.h"
+#include "controles/DeuxModes.h"
 #include "doublures/Ecran.h"
 
 namespace gastrelle::essai {

@@ -5,8 +5,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "controles/FenetreEnfant.h"
 #include "controles/BoitesTexte.h"
+#include "controles/FenetreEnfant.h"
 #include "doublures/Bibliotheque.h"
 #include "doublures/CadreEssai.h"
 #include "doublures/Ecran.h"

@@ -7,8 +7,8 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
-#include "controles/Conversion.h"
 #include "controles/BoitesTexte.h"
+#include "controles/Conversion.h"
 #include "doublures/Ecran.h"
 #include "doublures/EcranVirtuel.h"
 #include "doublures/ServicesEssai.h"
