@@ -1,12 +1,12 @@
-// A drop-down list that accepts no typing, over the one list model.
+// A drop-down list that accepts no typing, over the one list model. As long as it is closed nothing
+// but the program changes its choice: keys open it and work inside, the wheel passes it by.
 #pragma once
 
 #include <functional>
 
 #include <QComboBox>
-#include <QListView>
 
-#include "controles/ModeleListe.h"
+#include "controles/VueListe.h"
 
 namespace gastrelle {
 
@@ -45,9 +45,20 @@ class ComboListe final : public QComboBox {
   /// Opens the list, whose view is made the first time.
   void showPopup() override;
 
+ protected:
+  bool event(QEvent* evenement) override;
+  void keyPressEvent(QKeyEvent* touche) override;
+  void wheelEvent(QWheelEvent* evenement) override;
+
  private:
+  void FaitVue();
+  /// As wide as the longest title asks for, up to the screen.
+  void ElargitVue();
+  /// The title on display if it is cut short, else nothing.
+  [[nodiscard]] QString TitreAbrege() const;
+
   ModeleListe modele_;
-  QListView* vue_ = nullptr;
+  VueListe* vue_ = nullptr;
 };
 
 }  // namespace gastrelle

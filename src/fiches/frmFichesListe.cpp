@@ -1,6 +1,7 @@
 #include "fiches/frmFichesListe.h"
 
 #include "controles/Focus.h"
+#include "controles/ParcoursListe.h"
 #include "data/Limites.h"
 #include "data/ProceduresFichiers.h"
 
@@ -17,6 +18,7 @@ frmFichesListe::frmFichesListe(const PlaceOnglet& place, const DescriptionFiches
   AjouteDessous(QString::fromUtf16(controles.legendeTitre), combo);
   contenu().setRowStretch(AjouteDessous(QString::fromUtf16(controles.legendeTexte), texte), 1);
   boutons().Aide("cmdAideListe");
+  ParcourtAuClavier(*this, *combo);
   combo->surChoix = [this] { Affiche(); };
 }
 

@@ -2,6 +2,7 @@
 
 #include "controles/Conversion.h"
 #include "controles/Focus.h"
+#include "controles/ParcoursListe.h"
 #include "data/Limites.h"
 #include "data/ProceduresFichiers.h"
 #include "recettes/LectureRecettes.h"
@@ -22,6 +23,7 @@ frmRecettesListe::frmRecettesListe(const PlaceOnglet& place)
   familles.Suit(*ComboFamilles);
   RetientImage({});
   ComboFamilles->surChoix = [this] { ChoisitFamille(); };
+  ParcourtAuClavier(*this, *ComboRecettes);
   ComboRecettes->surChoix = [this] { AfficheRecette(); };
 }
 

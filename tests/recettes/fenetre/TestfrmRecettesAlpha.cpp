@@ -92,6 +92,31 @@ TEST_F(Alpha, UnDoubleClicFaitDeMeme) {
   EXPECT_EQ(recettes().currentText(), Fr("Velouté"));
 }
 
+TEST_F(Alpha, EntreeSurUneRecetteLAffiche) {
+  OuvreAlpha();
+  Selectionne(0);
+  QTest::keyClick(&liste(), Qt::Key_Return);
+  EXPECT_EQ(onglet(), 1);
+  EXPECT_EQ(recettes().currentText(), "Soupe");
+  EXPECT_TRUE(aLeFocus("txtRecette"));
+}
+
+TEST_F(Alpha, LesRecettesDeLaFabriqueSeTrouventSansAccentNiLigature) {
+  b.GarnitDeFabrique(DOSSIER_PROGRAMME);
+  Ouvre(5);
+  const auto tape = [this](const char* mot) {
+    Selectionne(0);
+    QTest::qWait(1600);
+    Tape(liste(), mot);
+    return liste().currentIndex().data().toString();
+  };
+  EXPECT_EQ(tape("boeuf"), Fr("Bœuf aux carottes"));
+  EXPECT_EQ(tape("gateau"), Fr("Gâteau au yaourt"));
+  EXPECT_EQ(tape("crepes"), Fr("Crêpes de froment"));
+  EXPECT_EQ(tape("ile"), Fr("Îles flottantes"));
+  EXPECT_EQ(tape("huile"), Fr("Harengs et pommes à l'huile"));
+}
+
 TEST_F(Alpha, LaRecetteDejaAfficheeNeReliRien) {
   OuvreAlpha();
   Selectionne(1);
