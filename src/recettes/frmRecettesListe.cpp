@@ -14,7 +14,7 @@ frmRecettesListe::frmRecettesListe(const PlaceOnglet& place)
       ComboFamilles(new ComboListe(QStringLiteral("ComboFamilles"), Ordre::alphabetique, this)),
       ComboRecettes(new ComboListe(QStringLiteral("ComboRecettes"), Ordre::alphabetique, this)),
       txtRecette(new ZoneTexte(QStringLiteral("txtRecette"), limiteTexte, this)),
-      lblLaRecette(Legende(QStringLiteral("La recette"), txtRecette)),
+      lblLaRecette(Legende(QStringLiteral("La recet&te"), txtRecette)),
       cmdCameraListe(
           boutons().Ajoute("cmdCameraListe", u"I&mage", "camera",
                            u"Cliquez sur ce bouton pour voir l'image associée à la recette",
@@ -30,8 +30,8 @@ frmRecettesListe::frmRecettesListe(const PlaceOnglet& place)
 void frmRecettesListe::Dispose() {
   lblLaRecette->setObjectName(QStringLiteral("lblLaRecette"));
   txtRecette->RendLectureSeule();
-  contenu().addWidget(Legende(QStringLiteral("Les familles de recettes"), ComboFamilles), 0, 0);
-  contenu().addWidget(Legende(QStringLiteral("Les recettes de la famille"), ComboRecettes), 0, 1);
+  contenu().addWidget(Legende(QStringLiteral("Les fami&lles de recettes"), ComboFamilles), 0, 0);
+  contenu().addWidget(Legende(QStringLiteral("Les &recettes de la famille"), ComboRecettes), 0, 1);
   contenu().addWidget(ComboFamilles, 1, 0);
   contenu().addWidget(ComboRecettes, 1, 1);
   contenu().addWidget(lblLaRecette, 2, 0, 1, 2);
