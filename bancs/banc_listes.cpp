@@ -11,7 +11,9 @@
 #include <unistd.h>
 #include <vector>
 
+#include <QAbstractItemView>
 #include <QApplication>
+#include <QKeyEvent>
 
 #include "GrandeBibliotheque.h"
 #include "Releve.h"
@@ -82,6 +84,7 @@ struct Releves {
   Releve affichage;
   Releve peinture;
   Releve deroulement;
+  Releve lettre;
   Releve classement;
 };
 
@@ -106,6 +109,12 @@ void Tour(Releves& releves, const std::filesystem::path& fichier, Module1& modul
   QApplication::processEvents();
   releves.deroulement.Mesure([&] {
     recettes.showPopup();
+    QApplication::processEvents();
+  });
+  // The worst case: no title fits, each is looked at to its end.
+  releves.lettre.Mesure([&] {
+    QKeyEvent touche(QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier, QStringLiteral("~"));
+    QApplication::sendEvent(recettes.view(), &touche);
     QApplication::processEvents();
   });
   recettes.hidePopup();
@@ -148,6 +157,7 @@ int Mesure(essai::Bibliotheque& b) {
   AnnoncePart("dont affichage de la première recette", releves.affichage);
   AnnoncePart("ensuite, peinture de la fenêtre", releves.peinture);
   tenu = Annonce("sa liste se déroule", releves.deroulement, releves.plancher, cible) && tenu;
+  tenu = Annonce("une lettre s'y cherche", releves.lettre, releves.plancher, cible) && tenu;
   tenu = Annonce("une recette se choisit", releves.affichage, releves.plancher, cible) && tenu;
   tenu =
       Annonce("l'onglet Alpha s'ouvre", releves.classement, releves.plancher, cibleAlpha) && tenu;

@@ -35,18 +35,18 @@ void Prepare(QMessageBox& boite, std::string_view texte, Icone icone, std::strin
 void MessagesEcran::Informe(std::string_view texte, Icone icone, std::string_view titre) {
   QMessageBox boite(QApplication::activeWindow());
   Prepare(boite, texte, icone, titre);
-  boite.addButton(QStringLiteral("OK"), QMessageBox::AcceptRole);
+  boite.addButton(QStringLiteral("&OK"), QMessageBox::AcceptRole);
   boite.exec();
 }
 
 Reponse MessagesEcran::Demande(std::string_view texte, Choix choix) {
   QMessageBox boite(QApplication::activeWindow());
   Prepare(boite, texte, Icone::exclamation, titreApplication);
-  const QPushButton* oui = boite.addButton(QStringLiteral("Oui"), QMessageBox::YesRole);
-  QPushButton* non = boite.addButton(QStringLiteral("Non"), QMessageBox::NoRole);
+  const QPushButton* oui = boite.addButton(QStringLiteral("&Oui"), QMessageBox::YesRole);
+  QPushButton* non = boite.addButton(QStringLiteral("&Non"), QMessageBox::NoRole);
   QPushButton* sortie = non;
   if (choix == Choix::ouiNonAnnuler) {
-    sortie = boite.addButton(QStringLiteral("Annuler"), QMessageBox::RejectRole);
+    sortie = boite.addButton(QStringLiteral("&Annuler"), QMessageBox::RejectRole);
   }
   boite.setDefaultButton(non);
   boite.setEscapeButton(sortie);

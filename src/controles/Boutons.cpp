@@ -1,5 +1,7 @@
 #include "controles/Boutons.h"
 
+#include <utility>
+
 #include "controles/Icones.h"
 #include "controles/Touches.h"
 
@@ -10,6 +12,7 @@ QPushButton* Bouton(const QString& nom, const QString& titre, const QString& ico
   auto* bouton = new QPushButton(IconeDe(icone), titre, parent);
   bouton->setObjectName(nom);
   bouton->setToolTip(infobulle);
+  bouton->setAutoDefault(true);
   QString lisible = titre;
   bouton->setAccessibleName(infobulle.isEmpty() ? lisible.remove(u'&') : infobulle);
   return bouton;
@@ -26,19 +29,37 @@ PiedBoutons::PiedBoutons() {
   addStretch(1);
 }
 
+QPushButton* PiedBoutons::Pose(QPushButton* bouton) {
+  if (!std::exchange(aSaTouche_, true)) {
+    Raccourci(*parentWidget(),
+              {QKeySequence(Qt::CTRL | Qt::Key_Return), QKeySequence(Qt::CTRL | Qt::Key_Enter)},
+              false, [this] {
+                if (conclusion_ != nullptr && conclusion_->isVisible()) {
+                  conclusion_->click();
+                }
+              });
+  }
+  addWidget(bouton);
+  return bouton;
+}
+
 QPushButton* PiedBoutons::Ajoute(const char* nom, const char16_t* titre, const char* icone,
                                  const char16_t* infobulle, const Action& action) {
   QPushButton* bouton = Bouton(QLatin1String(nom), QString::fromUtf16(titre), QLatin1String(icone),
                                QString::fromUtf16(infobulle), parentWidget());
   connect(bouton, &QPushButton::clicked, bouton, action);
-  addWidget(bouton);
-  return bouton;
+  return Pose(bouton);
+}
+
+QPushButton* PiedBoutons::AjouteConclusion(const char* nom, const char16_t* titre,
+                                           const char* icone, const char16_t* infobulle,
+                                           const Action& action) {
+  conclusion_ = Ajoute(nom, titre, icone, infobulle, action);
+  return conclusion_;
 }
 
 QPushButton* PiedBoutons::Aide(const char* nom) {
-  QPushButton* bouton = BoutonAide(QLatin1String(nom), parentWidget());
-  addWidget(bouton);
-  return bouton;
+  return Pose(BoutonAide(QLatin1String(nom), parentWidget()));
 }
 
 }  // namespace gastrelle

@@ -9,6 +9,7 @@
 namespace gastrelle {
 
 /// A button with its name, caption, picture (none: empty) and tooltip, which screen readers say.
+/// Return presses the one that has the focus, on a page as in a dialog.
 QPushButton* Bouton(const QString& nom, const QString& titre, const QString& icone,
                     const QString& infobulle, QWidget* parent);
 
@@ -24,8 +25,9 @@ class PiedBoutons final : public QHBoxLayout {
 
   PiedBoutons();
 
+  /// Ctrl+Return anywhere on the page presses it as well, also from inside a text.
   QPushButton* Valide(const char* nom, const char16_t* infobulle, const Action& action) {
-    return Ajoute(nom, u"&Valider", "valider", infobulle, action);
+    return AjouteConclusion(nom, u"&Valider", "valider", infobulle, action);
   }
   QPushButton* Efface(const char* nom, const Action& action) {
     return Ajoute(nom, u"Effa&cer", "effacer", u"Effacer toutes les saisies", action);
@@ -36,14 +38,24 @@ class PiedBoutons final : public QHBoxLayout {
   QPushButton* Supprime(const char* nom, const char16_t* infobulle, const Action& action) {
     return Ajoute(nom, u"&Supprimer", "supprimer", infobulle, action);
   }
-  /// Shows what is selected in a list.
+  /// Shows what is selected in a list. Ctrl+Return as for `Valide`.
   QPushButton* Affiche(const char* nom, const char16_t* infobulle, const Action& action) {
-    return Ajoute(nom, u"Affi&cher", "valider", infobulle, action);
+    return AjouteConclusion(nom, u"Affi&cher", "valider", infobulle, action);
   }
   QPushButton* Aide(const char* nom);
   /// Any other button.
   QPushButton* Ajoute(const char* nom, const char16_t* titre, const char* icone,
                       const char16_t* infobulle, const Action& action);
+
+ private:
+  /// A button at the end of the row. With the first one Ctrl+Return becomes the page's own key.
+  QPushButton* Pose(QPushButton* bouton);
+  /// The button that ends what is done on the page, which Ctrl+Return presses.
+  QPushButton* AjouteConclusion(const char* nom, const char16_t* titre, const char* icone,
+                                const char16_t* infobulle, const Action& action);
+
+  bool aSaTouche_ = false;
+  QPushButton* conclusion_ = nullptr;
 };
 
 }  // namespace gastrelle

@@ -1,12 +1,45 @@
 #include "controles/ComboListe.h"
 
+#include <algorithm>
+#include <array>
+
+#include <QCoreApplication>
+#include <QHelpEvent>
+#include <QKeyEvent>
+#include <QScreen>
+#include <QScrollBar>
 #include <QStyleOptionComboBox>
+#include <QToolTip>
 
 #include "controles/StyleGastrelle.h"
+#include "controles/Touches.h"
 #include "data/Texte1252.h"
 #include "plateforme/ErreurExecution.h"
 
 namespace gastrelle {
+namespace {
+
+constexpr int rangeesMontrees = 20;
+
+/// The keys that move the choice in an open list.
+constexpr std::array<Qt::Key, 6> deplacements{Qt::Key_Up,       Qt::Key_Down, Qt::Key_PageUp,
+                                              Qt::Key_PageDown, Qt::Key_Home, Qt::Key_End};
+
+/// Keys that open a closed list and do no more.
+bool Ouvre(const QKeyEvent& touche) {
+  return EstAltFleche(touche) ||
+         (EstTouchePlaine(touche) && (touche.key() == Qt::Key_Space || touche.key() == Qt::Key_F4));
+}
+
+/// Keys that open a closed list and are then its own.
+bool Entame(const QKeyEvent& touche) {
+  const bool deplace =
+      std::find(deplacements.begin(), deplacements.end(), touche.key()) != deplacements.end();
+  const bool tape = !touche.text().isEmpty() && touche.text().front().isPrint();
+  return EstTouchePlaine(touche) && (deplace || tape);
+}
+
+}  // namespace
 
 ComboListe::ComboListe(const QString& nom, Ordre ordre, QWidget* parent)
     : QComboBox(parent), modele_(ordre) {
@@ -15,6 +48,7 @@ ComboListe::ComboListe(const QString& nom, Ordre ordre, QWidget* parent)
   setModel(&modele_);
   setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
   setMinimumContentsLength(lettresAuMoins);
+  setMaxVisibleItems(rangeesMontrees);
   connect(this, &QComboBox::activated, this, [this] {
     if (surChoix) {
       surChoix();
@@ -22,13 +56,67 @@ ComboListe::ComboListe(const QString& nom, Ordre ordre, QWidget* parent)
   });
 }
 
+void ComboListe::FaitVue() {
+  vue_ = new VueListe(this);
+  vue_->Suit(modele_);
+  setView(vue_);
+}
+
+void ComboListe::ElargitVue() {
+  const int ascenseur =
+      count() > maxVisibleItems() ? vue_->verticalScrollBar()->sizeHint().width() : 0;
+  const int voulue = vue_->LargeurUtile() + ascenseur + 2 * vue_->frameWidth();
+  const int cadre = 2 * style()->pixelMetric(QStyle::PM_DefaultFrameWidth, nullptr, this);
+  vue_->setMinimumWidth(std::min(voulue, screen()->availableGeometry().width() - cadre));
+}
+
 void ComboListe::showPopup() {
-  if (vue_ == nullptr) {
-    vue_ = new QListView(this);
-    vue_->setUniformItemSizes(true);  // 32,767 entries open at once
-    setView(vue_);
+  if (count() == 0) {
+    return;
   }
+  if (vue_ == nullptr) {
+    FaitVue();
+  }
+  ElargitVue();
   QComboBox::showPopup();
+}
+
+void ComboListe::keyPressEvent(QKeyEvent* touche) {
+  const bool ouvre = Ouvre(*touche);
+  const bool entame = !ouvre && Entame(*touche);
+  if (!ouvre && !entame) {
+    touche->ignore();
+    return;
+  }
+  showPopup();
+  if (entame && count() > 0) {
+    QCoreApplication::sendEvent(vue_, touche);
+  }
+}
+
+void ComboListe::wheelEvent(QWheelEvent* evenement) {
+  evenement->ignore();  // the page behind may scroll
+}
+
+QString ComboListe::TitreAbrege() const {
+  QStyleOptionComboBox combo;
+  initStyleOption(&combo);
+  const bool abrege =
+      fontMetrics().horizontalAdvance(combo.currentText) > PlacePourTitre(*style(), combo, this);
+  return abrege ? combo.currentText : QString();
+}
+
+bool ComboListe::event(QEvent* evenement) {
+  const QEvent::Type genre = evenement->type();
+  if (genre == QEvent::ShortcutOverride && EstAltFleche(*static_cast<QKeyEvent*>(evenement))) {
+    evenement->accept();
+    return true;
+  }
+  if (genre == QEvent::ToolTip && toolTip().isEmpty()) {
+    QToolTip::showText(static_cast<QHelpEvent*>(evenement)->globalPos(), TitreAbrege(), this);
+    return true;
+  }
+  return QComboBox::event(evenement);
 }
 
 void ComboListe::Choisit(int indice) {
@@ -84,12 +172,6 @@ int ComboListe::Ajoute(const EntreeListe& entree) {
 void ComboListe::Vide() {
   modele_.Vide();
   setCurrentIndex(-1);
-}
-
-bool ComboListe::TitreAbrege() const {
-  QStyleOptionComboBox option;
-  initStyleOption(&option);
-  return option.fontMetrics.horizontalAdvance(option.currentText) > PlaceTitre(option, *this);
 }
 
 std::int32_t ComboListe::NumeroChoisi() const {

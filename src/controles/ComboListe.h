@@ -1,12 +1,12 @@
-// A drop-down list that accepts no typing, over the one list model.
+// A drop-down list that accepts no typing, over the one list model. As long as it is closed nothing
+// but the program changes its choice: keys open it and work inside, the wheel passes it by.
 #pragma once
 
 #include <functional>
 
 #include <QComboBox>
-#include <QListView>
 
-#include "controles/ModeleListe.h"
+#include "controles/VueListe.h"
 
 namespace gastrelle {
 
@@ -42,15 +42,24 @@ class ComboListe final : public QComboBox {
   /// Text of the chosen entry, Windows-1252 and trimmed as all names are; empty when there is none.
   [[nodiscard]] std::string Texte() const;
 
-  /// True if the closed list is too narrow for the chosen title.
-  [[nodiscard]] bool TitreAbrege() const;
+  /// The title of the closed list if it is too narrow for it, else nothing.
+  [[nodiscard]] QString TitreAbrege() const;
 
   /// Opens the list, whose view is made the first time.
   void showPopup() override;
 
+ protected:
+  bool event(QEvent* evenement) override;
+  void keyPressEvent(QKeyEvent* touche) override;
+  void wheelEvent(QWheelEvent* evenement) override;
+
  private:
+  void FaitVue();
+  /// As wide as the longest title asks for, up to the screen.
+  void ElargitVue();
+
   ModeleListe modele_;
-  QListView* vue_ = nullptr;
+  VueListe* vue_ = nullptr;
 };
 
 }  // namespace gastrelle

@@ -33,6 +33,8 @@ FenetreOnglets::FenetreOnglets(Module1& module, Cadre& cadre, const DescriptionF
   fond->addWidget(pile_, 1);
   connect(TabStrip1_, &QTabBar::currentChanged, this,
           [this](int indice) { ClicOnglet(indice + 1); });
+  Raccourci(*this, {QKeySequence(Qt::CTRL | Qt::Key_PageDown)}, true, [this] { VaAuVoisin(1); });
+  Raccourci(*this, {QKeySequence(Qt::CTRL | Qt::Key_PageUp)}, true, [this] { VaAuVoisin(-1); });
 }
 
 Onglet& FenetreOnglets::Page(int onglet) {
@@ -74,14 +76,42 @@ void FenetreOnglets::ClicOnglet(int onglet) {
 void FenetreOnglets::MontrePage(int onglet) {
   pile_->setCurrentWidget(&Page(onglet));
   ongletCourant_ = onglet;
+  ColoreRefus();
   EtatOnglet();
 }
 
+bool FenetreOnglets::EstRefuse(int vers) const {
+  return std::any_of(jeu_.refus.begin(), jeu_.refus.end(), [&](const ChangementRefuse& refus) {
+    return refus.de == ongletCourant_ && refus.vers == vers;
+  });
+}
+
+void FenetreOnglets::VaAuVoisin(int sens) {
+  const int nombre = TabStrip1_->count();
+  int vers = ongletCourant_;
+  do {
+    vers = (vers - 1 + sens + nombre) % nombre + 1;
+  } while (EstRefuse(vers));
+  ChoisitOnglet(vers);
+}
+
+void FenetreOnglets::ColoreRefus() {
+  for (int indice = 0; indice < TabStrip1_->count(); ++indice) {
+    TabStrip1_->setTabTextColor(
+        indice, EstRefuse(indice + 1) ? palette().color(QPalette::Disabled, QPalette::WindowText)
+                                      : QColor());
+  }
+}
+
+void FenetreOnglets::changeEvent(QEvent* evenement) {
+  FenetreEnfant::changeEvent(evenement);
+  if (evenement->type() == QEvent::PaletteChange) {
+    ColoreRefus();
+  }
+}
+
 bool FenetreOnglets::PermetOnglet(int vers) {
-  const bool refuse =
-      std::any_of(jeu_.refus.begin(), jeu_.refus.end(), [&](const ChangementRefuse& refus) {
-        return refus.de == ongletCourant_ && refus.vers == vers;
-      });
+  const bool refuse = EstRefuse(vers);
   if (refuse) {
     module().services.son.Joue(CheminSysteme(module(), module().chemins.De("Exclamation")));
   }

@@ -98,8 +98,15 @@ class FenetreOnglets : public FenetreEnfant {
   void MontreDansListe(ComboListe& combo, std::int32_t numero);
 
   void RegleCadre() override { EtatOnglet(); }
+  void changeEvent(QEvent* evenement) override;
 
  private:
+  /// True if the table refuses the way from the tab on display to another.
+  [[nodiscard]] bool EstRefuse(int vers) const;
+  /// The next tab (`sens` 1) or the previous one (-1), round the strip, refused ones left out.
+  void VaAuVoisin(int sens);
+  /// A tab that the table refuses looks disabled; it can still be clicked.
+  void ColoreRefus();
   void ClicOnglet(int onglet);
   void MontrePage(int onglet);
 

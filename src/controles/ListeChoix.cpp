@@ -1,20 +1,29 @@
 #include "controles/ListeChoix.h"
 
+#include <QKeyEvent>
+
+#include "controles/Touches.h"
 #include "plateforme/ErreurExecution.h"
 
 namespace gastrelle {
 
 ListeChoix::ListeChoix(const QString& nom, Ordre ordre, QWidget* parent)
-    : QListView(parent), modele_(ordre) {
+    : VueListe(parent), modele_(ordre) {
   setObjectName(nom);
-  setUniformItemSizes(true);
-  setEditTriggers(NoEditTriggers);
-  setModel(&modele_);
+  Suit(modele_);
   connect(this, &QAbstractItemView::doubleClicked, this, [this] {
     if (surDoubleClic) {
       surDoubleClic();
     }
   });
+}
+
+void ListeChoix::keyPressEvent(QKeyEvent* touche) {
+  if (EstEntree(*touche) && indice() >= 0 && surDoubleClic) {
+    surDoubleClic();
+  } else {
+    VueListe::keyPressEvent(touche);
+  }
 }
 
 void ListeChoix::Choisit(int indice) {
@@ -31,7 +40,7 @@ std::int32_t ListeChoix::NumeroChoisi() const {
 }
 
 void ListeChoix::currentChanged(const QModelIndex& courant, const QModelIndex& precedent) {
-  QListView::currentChanged(courant, precedent);
+  VueListe::currentChanged(courant, precedent);
   if (courant.isValid() && surChoix) {
     surChoix();
   }

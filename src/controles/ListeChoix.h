@@ -3,19 +3,17 @@
 
 #include <functional>
 
-#include <QListView>
-
-#include "controles/ModeleListe.h"
+#include "controles/VueListe.h"
 
 namespace gastrelle {
 
-class ListeChoix final : public QListView {
+class ListeChoix final : public VueListe {
  public:
   ListeChoix(const QString& nom, Ordre ordre, QWidget* parent = nullptr);
 
   /// Runs when the choice moves to another entry, by the user or the program.
   std::function<void()> surChoix;
-  /// Runs on a double click on an entry.
+  /// Runs on a double click on an entry, and on Return on the chosen one.
   std::function<void()> surDoubleClic;
 
   /// Chooses an entry from code. An index outside the list chooses nothing.
@@ -31,6 +29,7 @@ class ListeChoix final : public QListView {
   [[nodiscard]] std::int32_t NumeroChoisi() const;
 
  protected:
+  void keyPressEvent(QKeyEvent* touche) override;
   void currentChanged(const QModelIndex& courant, const QModelIndex& precedent) override;
 
  private:

@@ -1,21 +1,45 @@
 #include "controles/StyleGastrelle.h"
 
+#include <algorithm>
+#include <array>
+
+#include <QListView>
+#include <QStyleOptionComboBox>
+
 namespace gastrelle {
 
-int PlaceTitre(const QStyleOptionComboBox& combo, const QWidget& controle) {
+namespace {
+
+constexpr int air = 3;  ///< above and below the text in the row of a list
+
+/// A closed list opens its entries in a list with a scroll bar, at once even with thousands of
+/// them; and the wheel, which people turn to scroll, changes neither a tab nor a choice.
+constexpr std::array refus{QStyle::SH_ComboBox_Popup, QStyle::SH_ComboBox_AllowWheelScrolling,
+                           QStyle::SH_TabBar_AllowWheelScrolling};
+
+}  // namespace
+
+int PlacePourTitre(const QStyle& style, const QStyleOptionComboBox& combo,
+                   const QWidget* controle) {
   constexpr int marges = 4;
-  return controle.style()
-             ->subControlRect(QStyle::CC_ComboBox, &combo, QStyle::SC_ComboBoxEditField, &controle)
-             .width() -
-         marges;
+  const QRect champ =
+      style.subControlRect(QStyle::CC_ComboBox, &combo, QStyle::SC_ComboBoxEditField, controle);
+  return champ.width() - marges;
 }
 
 int StyleGastrelle::styleHint(StyleHint indice, const QStyleOption* option, const QWidget* controle,
                               QStyleHintReturn* retour) const {
-  if (indice == SH_ComboBox_Popup) {
-    return 0;  // a list with a scroll bar: opens at once with thousands of entries
-  }
-  return QProxyStyle::styleHint(indice, option, controle, retour);
+  return std::find(refus.begin(), refus.end(), indice) != refus.end()
+             ? 0
+             : QProxyStyle::styleHint(indice, option, controle, retour);
+}
+
+QSize StyleGastrelle::sizeFromContents(ContentsType genre, const QStyleOption* option,
+                                       const QSize& contenu, const QWidget* controle) const {
+  const QSize taille = QProxyStyle::sizeFromContents(genre, option, contenu, controle);
+  const bool rangee =
+      genre == CT_ItemViewItem && qobject_cast<const QListView*>(controle) != nullptr;
+  return rangee ? taille + QSize(0, 2 * air) : taille;
 }
 
 void StyleGastrelle::drawControl(ControlElement element, const QStyleOption* option,
@@ -29,8 +53,8 @@ void StyleGastrelle::drawControl(ControlElement element, const QStyleOption* opt
   }
   // A title that is too long for its list ends in "…", not in half a letter.
   QStyleOptionComboBox abrege = *combo;
-  abrege.currentText = combo->fontMetrics.elidedText(combo->currentText, Qt::ElideRight,
-                                                     PlaceTitre(*combo, *controle));
+  const int place = PlacePourTitre(*this, *combo, controle);
+  abrege.currentText = combo->fontMetrics.elidedText(combo->currentText, Qt::ElideRight, place);
   QProxyStyle::drawControl(element, &abrege, peintre, controle);
 }
 

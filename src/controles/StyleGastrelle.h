@@ -2,12 +2,14 @@
 #pragma once
 
 #include <QProxyStyle>
-#include <QStyleOptionComboBox>
+
+class QStyleOptionComboBox;
 
 namespace gastrelle {
 
-/// The width, in pixels, that a closed drop-down list leaves to its title.
-int PlaceTitre(const QStyleOptionComboBox& combo, const QWidget& controle);
+/// Width of what a closed list can show of its title, in pixels: a longer one ends in "…".
+[[nodiscard]] int PlacePourTitre(const QStyle& style, const QStyleOptionComboBox& combo,
+                                 const QWidget* controle);
 
 class StyleGastrelle final : public QProxyStyle {
  public:
@@ -15,6 +17,9 @@ class StyleGastrelle final : public QProxyStyle {
 
   [[nodiscard]] int styleHint(StyleHint indice, const QStyleOption* option, const QWidget* controle,
                               QStyleHintReturn* retour) const override;
+  [[nodiscard]] QSize sizeFromContents(ContentsType genre, const QStyleOption* option,
+                                       const QSize& contenu,
+                                       const QWidget* controle) const override;
   void drawControl(ControlElement element, const QStyleOption* option, QPainter* peintre,
                    const QWidget* controle) const override;
 };

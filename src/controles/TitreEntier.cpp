@@ -26,8 +26,9 @@ bool TitreEntier::eventFilter(QObject* objet, QEvent* evenement) {
 }
 
 void TitreEntier::Regle() {
-  setText(combo_.currentText());
-  setVisible(combo_.TitreAbrege());
+  const QString titre = combo_.TitreAbrege();
+  setText(titre);
+  setVisible(!titre.isEmpty());
 }
 
 }  // namespace gastrelle

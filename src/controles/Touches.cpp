@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QShortcut>
 #include <QWidget>
 
 namespace gastrelle {
@@ -17,6 +18,29 @@ void EnvoieF1() {
     QKeyEvent relache(QEvent::KeyRelease, Qt::Key_F1, Qt::NoModifier);
     QApplication::sendEvent(vers, &relache);
   }
+}
+
+bool EstTouchePlaine(const QKeyEvent& touche) {
+  return (touche.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) == 0;
+}
+
+bool EstEntree(const QKeyEvent& touche) {
+  return (touche.key() == Qt::Key_Return || touche.key() == Qt::Key_Enter) &&
+         (touche.modifiers() & ~Qt::KeypadModifier) == 0;
+}
+
+bool EstAltFleche(const QKeyEvent& touche) {
+  return (touche.key() == Qt::Key_Up || touche.key() == Qt::Key_Down) &&
+         (touche.modifiers() & ~Qt::KeypadModifier) == Qt::AltModifier;
+}
+
+void Raccourci(QWidget& zone, const QList<QKeySequence>& touches, bool repete,
+               const std::function<void()>& action) {
+  auto* raccourci = new QShortcut(&zone);
+  raccourci->setKeys(touches);
+  raccourci->setContext(Qt::WidgetWithChildrenShortcut);
+  raccourci->setAutoRepeat(repete);
+  QObject::connect(raccourci, &QShortcut::activated, &zone, action);
 }
 
 }  // namespace gastrelle

@@ -1,5 +1,14 @@
-// The help key: who sends it, and what it opens.
+// The keys that several controls share: the help key, who sends it and what it opens; the keys that
+// belong to lists; the key that validates a page.
 #pragma once
+
+#include <functional>
+
+#include <QKeySequence>
+#include <QList>
+
+class QKeyEvent;
+class QWidget;
 
 namespace gastrelle {
 
@@ -9,5 +18,17 @@ inline constexpr const char* proprieteSujet = "sujetAide";
 
 /// Sends the key F1 to the control in focus, or to the active window.
 void EnvoieF1();
+
+/// True if none of Ctrl, Alt and Meta is held: the key types a letter or works a control.
+[[nodiscard]] bool EstTouchePlaine(const QKeyEvent& touche);
+/// True for Return and for the keypad's Enter, alone.
+[[nodiscard]] bool EstEntree(const QKeyEvent& touche);
+/// True for Alt+Up and Alt+Down.
+[[nodiscard]] bool EstAltFleche(const QKeyEvent& touche);
+
+/// From now on the keys run `action` wherever the focus is in `zone`, unless a control there wants
+/// them for itself. `repete`: again and again while they are held down.
+void Raccourci(QWidget& zone, const QList<QKeySequence>& touches, bool repete,
+               const std::function<void()>& action);
 
 }  // namespace gastrelle

@@ -75,12 +75,6 @@ char* EcritBases(char* place, std::string_view texte) {
   return place;
 }
 
-std::string Bases(std::string_view texte) {
-  std::string bases(2 * texte.size(), '\0');
-  bases.resize(static_cast<std::size_t>(EcritBases(bases.data(), texte) - bases.data()));
-  return bases;
-}
-
 /// The accents of a text up to the last one, byte by byte.
 std::string Accents(std::string_view texte) {
   std::string accents;
@@ -153,8 +147,14 @@ void TrieRangs(std::span<Rang> rangs, std::size_t depuis, const Liste& liste) {
 
 }  // namespace
 
+std::string LettresDeBase(std::string_view texte) {
+  std::string bases(2 * texte.size(), '\0');
+  bases.resize(static_cast<std::size_t>(EcritBases(bases.data(), texte) - bases.data()));
+  return bases;
+}
+
 int CompareFrancais(std::string_view gauche, std::string_view droite) {
-  const int bases = Bases(gauche).compare(Bases(droite));
+  const int bases = LettresDeBase(gauche).compare(LettresDeBase(droite));
   return bases != 0 ? bases : CompareAccents(gauche, droite);
 }
 

@@ -20,6 +20,10 @@ struct EntreeListe {
 
 using Liste = std::vector<EntreeListe>;
 
+/// What a text is compared by before its accents: lower case without accents, œ and æ as two
+/// letters, the no-break space as a blank. Whatever is no letter stays as it is (Windows-1252).
+std::string LettresDeBase(std::string_view texte);
+
 /// Compares first the base letters, case ignored and œ read as oe, then the accents.
 /// Negative, 0 or positive, as `std::string_view::compare`.
 int CompareFrancais(std::string_view gauche, std::string_view droite);

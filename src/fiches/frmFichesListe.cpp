@@ -2,6 +2,7 @@
 
 #include "controles/FeuilleTexte.h"
 #include "controles/Focus.h"
+#include "controles/ParcoursListe.h"
 #include "controles/TitreEntier.h"
 #include "data/Limites.h"
 #include "data/ProceduresFichiers.h"
@@ -20,6 +21,7 @@ frmFichesListe::frmFichesListe(const PlaceOnglet& place, const DescriptionFiches
   contenu().addWidget(new TitreEntier(*combo, this), contenu().rowCount(), 0);
   contenu().setRowStretch(AjouteDessous(QString::fromUtf16(controles.legendeTexte), texte), 1);
   boutons().Aide("cmdAideListe");
+  ParcourtAuClavier(*this, *combo);
   combo->surChoix = [this] { Affiche(); };
 }
 

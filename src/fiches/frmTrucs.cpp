@@ -12,17 +12,18 @@ namespace {
 
 constexpr DescriptionFiches descriptionTrucs{
     .fichiers = fichiersTrucs,
-    .liste = {"ComboTrucs", "txtTruc", u"Les termes, trucs et astuces", u"Le terme, truc ou astuce",
+    .liste = {"ComboTrucs", "txtTruc", u"Les &termes, trucs et astuces",
+              u"Le terme, t&ruc ou astuce",
               u"Choisir dans la liste un terme, truc ou astuce pour en afficher ci-dessous son "
               u"détail"},
-    .ajouter = {"txtSaisieNomTruc", "txtSaisieTrucAjouter", u"Le terme, truc ou astuces",
-                u"Le texte", u"Entrez le titre du nouveau terme, truc ou astuce",
+    .ajouter = {"txtSaisieNomTruc", "txtSaisieTrucAjouter", u"Le &terme, truc ou astuces",
+                u"Le te&xte", u"Entrez le titre du nouveau terme, truc ou astuce",
                 u"Entrez le texte du nouveau terme, truc ou astuce"},
     .modifier = {"txtSaisieNomTrucModifier", "txtSaisieTrucModifier",
-                 u"Le titre du terme, truc ou astuce", u"Le texte", u"Entrez la modification",
+                 u"Le &titre du terme, truc ou astuce", u"Le te&xte", u"Entrez la modification",
                  u"Entrez vos éventuelles modifications"},
     .supprimer = {"txtSaisieNomSupprimer", "txtSaisieTrucSupprimer",
-                  u"Le titre du terme, truc ou astuce", u"Le texte"},
+                  u"Le &titre du terme, truc ou astuce", u"Le te&xte"},
     .annonce = "termes, trucs\r\net astuces",
     .sansTitreAjouter = "Il faut donner un titre au nouveau terme, truc ou astuce.",
     .sansTitreModifier = "Il faut donner un titre au terme, truc ou astuce.",

@@ -1,6 +1,7 @@
 #include "fromages/frmFromagesListe.h"
 
 #include "controles/Focus.h"
+#include "controles/ParcoursListe.h"
 #include "data/ProceduresFichiers.h"
 
 namespace gastrelle {
@@ -10,6 +11,7 @@ frmFromagesListe::frmFromagesListe(const PlaceOnglet& place)
       ComboFromages(new ComboListe(QStringLiteral("ComboFromages"), Ordre::alphabetique, this)) {
   DisposeSous(ComboFromages);
   boutons().Aide("cmdAideListe");
+  ParcourtAuClavier(*this, *ComboFromages);
   ComboFromages->surChoix = [this] { AfficheFromage(); };
 }
 

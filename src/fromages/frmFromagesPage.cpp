@@ -10,18 +10,18 @@ constexpr int lettresCode = 24;  ///< width of a milk or a month, with the arrow
 }  // namespace
 
 void frmFromagesPage::Dispose(const ChampsFromage& champs) {
-  AjouteACote(QStringLiteral("Le fromage"), champs.nom);
-  AjouteACote(QStringLiteral("Sa région d'origine"), champs.region);
-  RangCourt(Legende(QStringLiteral("Au lait de "), champs.lait), {champs.lait});
+  AjouteACote(QStringLiteral("Le fro&mage"), champs.nom);
+  AjouteACote(QStringLiteral("Sa &région d'origine"), champs.region);
+  RangCourt(Legende(QStringLiteral("Au &lait de "), champs.lait), {champs.lait});
   RangCourt(new QLabel(QStringLiteral("Meilleure période de dégustation "), this),
-            {Legende(QStringLiteral("de"), champs.premierMois), champs.premierMois,
+            {Legende(QStringLiteral("&de"), champs.premierMois), champs.premierMois,
              Legende(QStringLiteral("à"), champs.dernierMois), champs.dernierMois});
   champs.premierMois->setAccessibleName(QStringLiteral("Premier mois de dégustation"));
   champs.dernierMois->setAccessibleName(QStringLiteral("Dernier mois de dégustation"));
   for (QWidget* code : {champs.lait, champs.premierMois, champs.dernierMois}) {
     code->setFixedWidth(lettresCode * code->fontMetrics().averageCharWidth());
   }
-  contenu().setRowStretch(AjouteACote(QStringLiteral("Notes"), champs.notes), 1);
+  contenu().setRowStretch(AjouteACote(QStringLiteral("No&tes"), champs.notes), 1);
   OrdonneClavier({champs.nom, champs.region, champs.lait, champs.premierMois, champs.dernierMois,
                   champs.notes});
 }

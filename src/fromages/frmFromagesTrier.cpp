@@ -42,7 +42,7 @@ void frmFromagesTrier::Dispose() {
   List1_->setToolTip(QStringLiteral("Double-clic pour afficher la sélection"));
   List1_->setAccessibleName(QStringLiteral("Les fromages de ce lait"));
   auto* choix = new QHBoxLayout;
-  choix->addWidget(Legende(QStringLiteral("Au lait de "), ComboLaitTrier_));
+  choix->addWidget(Legende(QStringLiteral("Au &lait de "), ComboLaitTrier_));
   choix->addWidget(ComboLaitTrier_);
   choix->addStretch(1);
   // Either the list with its animal, or the mouse alone.

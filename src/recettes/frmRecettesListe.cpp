@@ -3,6 +3,7 @@
 #include "controles/Conversion.h"
 #include "controles/FeuilleTexte.h"
 #include "controles/Focus.h"
+#include "controles/ParcoursListe.h"
 #include "controles/TitreEntier.h"
 #include "data/Limites.h"
 #include "data/ProceduresFichiers.h"
@@ -15,7 +16,7 @@ frmRecettesListe::frmRecettesListe(const PlaceOnglet& place)
       ComboFamilles(new ComboListe(QStringLiteral("ComboFamilles"), Ordre::alphabetique, this)),
       ComboRecettes(new ComboListe(QStringLiteral("ComboRecettes"), Ordre::alphabetique, this)),
       txtRecette(new FeuilleTexte(QStringLiteral("txtRecette"), limiteTexte, this)),
-      lblLaRecette(Legende(QStringLiteral("La recette"), txtRecette)),
+      lblLaRecette(Legende(QStringLiteral("La recet&te"), txtRecette)),
       cmdCameraListe(
           boutons().Ajoute("cmdCameraListe", u"I&mage", "camera",
                            u"Cliquez sur ce bouton pour voir l'image associée à la recette",
@@ -28,14 +29,15 @@ frmRecettesListe::frmRecettesListe(const PlaceOnglet& place)
   familles.Suit(*ComboFamilles);
   RetientImage({});
   ComboFamilles->surChoix = [this] { ChoisitFamille(); };
+  ParcourtAuClavier(*this, *ComboRecettes);
   ComboRecettes->surChoix = [this] { AfficheRecette(); };
 }
 
 void frmRecettesListe::Dispose() {
   lblLaRecette->setObjectName(QStringLiteral("lblLaRecette"));
   txtRecette->RendLectureSeule();
-  contenu().addWidget(Legende(QStringLiteral("Les familles de recettes"), ComboFamilles), 0, 0);
-  contenu().addWidget(Legende(QStringLiteral("Les recettes de la famille"), ComboRecettes), 0, 1);
+  contenu().addWidget(Legende(QStringLiteral("Les fami&lles de recettes"), ComboFamilles), 0, 0);
+  contenu().addWidget(Legende(QStringLiteral("Les &recettes de la famille"), ComboRecettes), 0, 1);
   contenu().addWidget(ComboFamilles, 1, 0);
   contenu().addWidget(ComboRecettes, 1, 1);
   contenu().setColumnStretch(0, 2);

@@ -22,11 +22,11 @@ frmRecettesSaisie::frmRecettesSaisie(const PlaceOnglet& place, frmRecettesListe&
                      QStringLiteral("dossier"), QStringLiteral("Rechercher une image"), this)) {
   liste.familles.Suit(*familles);
   AjouteACote(QString::fromUtf16(noms.legendeFamille), famille);
-  AjouteACote(QStringLiteral("La famille de la recette"), familles);
-  AjouteACote(QStringLiteral("Le titre de la recette"), titre);
-  contenu().setRowStretch(AjouteACote(QStringLiteral("Le texte de la recette"), texte), 1);
+  AjouteACote(QStringLiteral("La famille &de la recette"), familles);
+  AjouteACote(QStringLiteral("Le &titre de la recette"), titre);
+  contenu().setRowStretch(AjouteACote(QStringLiteral("Le te&xte de la recette"), texte), 1);
   const int rang = contenu().rowCount();
-  contenu().addWidget(Legende(QStringLiteral("L'image associée"), image), rang, 0);
+  contenu().addWidget(Legende(QStringLiteral("L'image a&ssociée"), image), rang, 0);
   contenu().addWidget(image, rang, 1);
   contenu().addWidget(cherche, rang, 2);
   connect(cherche, &QPushButton::clicked, this, [this] {

@@ -44,7 +44,7 @@ frmRecettesSupprimer::frmRecettesSupprimer(const PlaceOnglet& place, frmRecettes
   AjouteACote(QStringLiteral("La famille de la recette"), lblFamilleRecetteSupprimer_);
   AjouteACote(QStringLiteral("Le titre de la recette"), lblTitreRecetteSupprimer_);
   contenu().setRowStretch(
-      AjouteACote(QStringLiteral("Le texte de la recette"), txtTexteRecetteSupprimer_), 1);
+      AjouteACote(QStringLiteral("Le te&xte de la recette"), txtTexteRecetteSupprimer_), 1);
 }
 
 void frmRecettesSupprimer::MontreFamille() {

@@ -24,14 +24,14 @@ class MessagesAffiches : public testing::Test {
   static QStringList Titres(const QMessageBox& boite) {
     QStringList titres;
     for (const QAbstractButton* bouton : boite.buttons()) {
-      titres << bouton->text();
+      titres << bouton->text().remove(u'&');
     }
     return titres;
   }
 
   static void Presse(QDialog& boite, const QString& titre) {
     for (QAbstractButton* bouton : Boite(boite).buttons()) {
-      if (bouton->text() == titre) {
+      if (bouton->text().remove(u'&') == titre) {
         Clique(*bouton);
         return;
       }
@@ -127,14 +127,14 @@ TEST_F(MessagesAffiches, UneQuestionALeTitreEtLExclamation) {
 TEST_F(MessagesAffiches, UneQuestionSansAnnulerAOuiEtNonNonParDefaut) {
   Demande(Choix::ouiNon, [](QDialog& boite) {
     EXPECT_THAT(Titres(Boite(boite)), UnorderedElementsAre("Oui", "Non"));
-    EXPECT_EQ(Boite(boite).defaultButton()->text(), "Non");
+    EXPECT_EQ(Boite(boite).defaultButton()->text(), "&Non");
   });
 }
 
 TEST_F(MessagesAffiches, UneQuestionAvecAnnulerEnATroisNonParDefaut) {
   Demande(Choix::ouiNonAnnuler, [](QDialog& boite) {
     EXPECT_THAT(Titres(Boite(boite)), UnorderedElementsAre("Oui", "Non", "Annuler"));
-    EXPECT_EQ(Boite(boite).defaultButton()->text(), "Non");
+    EXPECT_EQ(Boite(boite).defaultButton()->text(), "&Non");
   });
 }
 
@@ -165,6 +165,23 @@ TEST_F(MessagesAffiches, ChaqueBoutonRepondCeQuIlDit) {
   EXPECT_EQ(Demande(Choix::ouiNonAnnuler, presse("Oui")), Reponse::oui);
   EXPECT_EQ(Demande(Choix::ouiNonAnnuler, presse("Non")), Reponse::non);
   EXPECT_EQ(Demande(Choix::ouiNonAnnuler, presse("Annuler")), Reponse::annuler);
+}
+
+TEST_F(MessagesAffiches, LaLettreDUnBoutonRepondSeuleOuAvecAlt) {
+  for (const Qt::KeyboardModifiers avec :
+       {Qt::KeyboardModifiers(), Qt::KeyboardModifiers(Qt::AltModifier)}) {
+    const auto tape = [avec](Qt::Key lettre) {
+      return [avec, lettre](QDialog& boite) {
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&boite));
+        Frappe(lettre, avec);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !boite.isVisible(); }));
+      };
+    };
+    EXPECT_EQ(Demande(Choix::ouiNon, tape(Qt::Key_O)), Reponse::oui);
+    EXPECT_EQ(Demande(Choix::ouiNonAnnuler, tape(Qt::Key_N)), Reponse::non);
+    EXPECT_EQ(Demande(Choix::ouiNonAnnuler, tape(Qt::Key_A)), Reponse::annuler);
+    AvecDialogue([&] { messages.Informe("x", Icone::information); }, tape(Qt::Key_O));
+  }
 }
 
 TEST(PointeurAffiche, LeSablierPoseDeuxFoisSEnleveDUnCoup) {

@@ -176,6 +176,15 @@ std::int32_t Bibliotheque::AjouteFiche(Donnees fiches, std::string_view titre,
   return AjouteCompte(dossier, NomPresent(fiches), fiche);
 }
 
+void Bibliotheque::GarnitDeFabrique(const std::filesystem::path& dossierDuProgramme) {
+  for (const auto& place : std::filesystem::directory_iterator(dossierDuProgramme)) {
+    if (place.path().extension() == ".stp") {
+      std::filesystem::copy(place, dossier.chemin(),
+                            std::filesystem::copy_options::overwrite_existing);
+    }
+  }
+}
+
 void Bibliotheque::Garnit() {
   std::filesystem::create_directory(dossier.chemin() / "IMAGE");
   dossier.Ecrit("IMAGE/a.png", "x");

@@ -73,6 +73,9 @@ class Bibliotheque {
   /// A menu or a tip behind the last one.
   std::int32_t AjouteFiche(Donnees fiches, std::string_view titre, std::string_view texte = {});
 
+  /// The factory copies of the program's folder in place of the small ones.
+  void GarnitDeFabrique(const std::filesystem::path& dossierDuProgramme);
+
   /// Fills every catalogue that has a window: the factory's records, and one of the user's that
   /// stands first in its list. His recipe has a picture.
   void Garnit();

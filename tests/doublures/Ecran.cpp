@@ -2,12 +2,15 @@
 
 #include <utility>
 
+#include <QHelpEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPointer>
 #include <QTabBar>
 #include <QTest>
 #include <QTimer>
+#include <QToolTip>
+#include <QWheelEvent>
 
 namespace gastrelle::essai {
 namespace {
@@ -18,6 +21,14 @@ QStringList TextesDe(const QAbstractItemModel& modele) {
     textes << modele.index(i, 0).data().toString();
   }
   return textes;
+}
+
+QWidget* AuClavier() {
+  QWidget* ouverte = QApplication::activePopupWidget();
+  if (ouverte == nullptr) {
+    return QApplication::focusWidget();
+  }
+  return ouverte->focusWidget() != nullptr ? ouverte->focusWidget() : ouverte;
 }
 
 }  // namespace
@@ -85,6 +96,37 @@ void Remplace(QWidget& boite, const QString& texte) {
   QTest::keyClick(&boite, Qt::Key_A, Qt::ControlModifier);
   QTest::keyClick(&boite, Qt::Key_Delete);
   Tape(boite, texte);
+}
+
+void Frappe(Qt::Key touche, Qt::KeyboardModifiers avec) {
+  QWidget* clavier = AuClavier();
+  ASSERT_NE(clavier, nullptr);
+  QTest::keyClick(clavier, touche, avec);
+}
+
+void Frappe(const QString& lettres) {
+  for (const QChar lettre : lettres) {
+    QWidget* clavier = AuClavier();
+    ASSERT_NE(clavier, nullptr);
+    QTest::sendKeyEvent(QTest::Click, clavier, Qt::Key_unknown, QString(lettre), Qt::NoModifier);
+  }
+}
+
+void Roule(QWidget& controle, int crans) {
+  const QPoint milieu = controle.rect().center();
+  QWheelEvent roule(milieu, controle.mapToGlobal(milieu), {},
+                    QPoint(0, crans * QWheelEvent::DefaultDeltasPerStep), Qt::NoButton,
+                    Qt::NoModifier, Qt::NoScrollPhase, false);
+  QSpontaneKeyEvent::setSpontaneous(&roule);  // only such a one passes on to what lies behind
+  qApp->notify(&controle, &roule);
+}
+
+QString Infobulle(QWidget& controle, const QPoint& ou) {
+  QToolTip::hideText();
+  EXPECT_TRUE(QTest::qWaitFor([] { return !QToolTip::isVisible(); }));
+  QHelpEvent repos(QEvent::ToolTip, ou, controle.mapToGlobal(ou));
+  QApplication::sendEvent(&controle, &repos);
+  return QToolTip::isVisible() ? QToolTip::text() : QString();
 }
 
 void AvecDialogue(const std::function<void()>& ouvre,

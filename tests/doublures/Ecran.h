@@ -50,6 +50,15 @@ void Tape(QWidget& boite, const QString& texte);
 /// Replaces a box's text with the keyboard.
 void Remplace(QWidget& boite, const QString& texte);
 
+/// A key, or letters one after the other, to whatever has the keyboard at that moment: an open
+/// list, or the control in focus.
+void Frappe(Qt::Key touche, Qt::KeyboardModifiers avec = Qt::NoModifier);
+void Frappe(const QString& lettres);
+/// Turns the wheel over the middle of a control, by notches: upwards, or downwards if negative.
+void Roule(QWidget& controle, int crans);
+/// What the pointer says when it rests there; empty: nothing.
+QString Infobulle(QWidget& controle, const QPoint& ou);
+
 /// Text of a box, label or button as the user reads it.
 QString Texte(const QWidget& controle);
 

@@ -79,11 +79,11 @@ class Mots : public FenetreEssai<Fenetre> {
     }
   }
 
-  /// The caption whose access key leads to a control.
+  /// The caption whose access key leads to a control, without the mark of that key.
   QString LegendeDe(const QWidget& widget) {
     for (const QLabel* etiquette : this->fenetre->template findChildren<QLabel*>()) {
       if (etiquette->buddy() == &widget) {
-        return etiquette->text();
+        return etiquette->text().remove(u'&');
       }
     }
     return {};

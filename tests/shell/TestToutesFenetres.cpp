@@ -1,6 +1,9 @@
 // What every child window owes its user, whichever it is: pages that are made on demand without
 // anybody noticing, tabs that open or refuse, the keyboard, the help.
 
+#include <functional>
+#include <utility>
+
 #include <QAbstractButton>
 #include <QKeySequence>
 #include <QTest>
@@ -107,6 +110,54 @@ class Fenetres : public FenetreEssai<FenetreEnfant>,
       std::erase(tour, bande);
     }
     return tour;
+  }
+  void OuvreActive() {
+    Ouvre();
+    fenetre->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(fenetre.get()));
+  }
+  /// Goes to a tab and puts the focus on each control of its page that the Tab key reaches, then on
+  /// the strip of tabs; `essaie` is told the name of the control.
+  void SurChaqueControle(int onglet, const std::function<void(QWidget&)>& essaie) {
+    VaA(onglet);
+    std::vector<QWidget*> controles;
+    for (const QByteArray& nom :
+         QByteArray(ligne.clavier[static_cast<std::size_t>(onglet) - 1]).split(' ')) {
+      controles.push_back(&Trouve(Page(onglet), nom.constData()));
+    }
+    if (auto* bande = fenetre->findChild<QTabBar*>()) {
+      controles.push_back(bande);
+    }
+    for (QWidget* controle : controles) {
+      SCOPED_TRACE(controle->objectName().toStdString());
+      VaA(onglet);
+      controle->setFocus();
+      if (controle->hasFocus()) {  // what a gesture before this one disabled is left out
+        essaie(*controle);
+      }
+    }
+  }
+  /// The button that ends what is done on a page, if there is one that shows.
+  QPushButton* Conclusion(int onglet) {
+    for (auto* bouton : Page(onglet).findChildren<QPushButton*>()) {
+      const QString titre = bouton->text().remove(u'&');
+      if ((titre == "Valider" || titre == "Afficher") && bouton->isVisible()) {
+        return bouton;
+      }
+    }
+    return nullptr;
+  }
+  /// The list of the first page that the whole window works on.
+  QComboBox* ListePrincipale() {
+    const auto listes = Page(1).findChildren<QComboBox*>();
+    for (auto* liste : listes) {
+      if (QByteArray(ligne.clavier[0]).startsWith(liste->objectName().toLatin1()) &&
+          listes.size() > 1) {
+        continue;  // the families come before their recipes
+      }
+      return liste;
+    }
+    return nullptr;
   }
   /// Where a control stands in the window.
   QRect Place(const QWidget& controle) const {
@@ -245,6 +296,182 @@ TEST_P(Fenetres, LesClesDAccesDUnePageSontUniquesEtLaissentLesMenusDuCadre) {
     for (const QString& cle : cles) {
       EXPECT_FALSE(prises.contains(cle)) << onglet << ' ' << cle.toStdString();
       prises << cle;
+    }
+  }
+}
+
+TEST_P(Fenetres, LaCleDUneLegendeMeneASonControle) {
+  OuvreActive();
+  for (int onglet = 1; onglet <= ligne.onglets(); ++onglet) {
+    VaA(onglet);
+    for (const auto* legende : Page(onglet).findChildren<QLabel*>()) {
+      const QKeySequence cle = QKeySequence::mnemonic(legende->text());
+      QWidget* controle = legende->buddy();
+      if (cle.isEmpty() || controle == nullptr || !controle->isEnabled() ||
+          !controle->isVisible()) {
+        continue;
+      }
+      BoutonAide(onglet).setFocus();
+      Frappe(cle[0].key(), Qt::AltModifier);
+      EXPECT_TRUE(controle->hasFocus()) << onglet << ' ' << legende->text().toStdString();
+    }
+  }
+}
+
+TEST_P(Fenetres, LaMoletteNeChangeNiOngletNiListeFermee) {
+  Ouvre();
+  for (int onglet = 1; onglet <= ligne.onglets(); ++onglet) {
+    VaA(onglet);
+    for (auto* liste : Page(onglet).findChildren<QComboBox*>()) {
+      const int choix = liste->currentIndex();
+      for (const int crans : {-1, 1}) {
+        Roule(*liste, crans);
+        EXPECT_EQ(liste->currentIndex(), choix) << liste->objectName().toStdString();
+      }
+    }
+    if (auto* bande = fenetre->findChild<QTabBar*>()) {
+      for (const int crans : {-1, 1}) {
+        Roule(*bande, crans);
+        EXPECT_EQ(bande->currentIndex() + 1, onglet);
+      }
+    }
+  }
+}
+
+TEST_P(FenetresAOnglets, CtrlPageFaitLeTourDesOngletsDOuQuOnSoit) {
+  OuvreActive();
+  const int nombre = ligne.onglets();
+  for (const auto& [touche, pas] : {std::pair(Qt::Key_PageDown, 1), {Qt::Key_PageUp, nombre - 1}}) {
+    for (int de = 1; de <= nombre; ++de) {
+      int attendu = de;
+      do {
+        attendu = (attendu - 1 + pas) % nombre + 1;
+      } while (Refuse(de, attendu));
+      SurChaqueControle(de, [&, touche = touche](QWidget&) {
+        Frappe(touche, Qt::ControlModifier);
+        EXPECT_EQ(onglet(), attendu);
+      });
+    }
+  }
+  EXPECT_THAT(b.son.joues, testing::IsEmpty());
+}
+
+TEST_P(FenetresAOnglets, UnOngletRefuseALAirInactifSousToutePalette) {
+  Ouvre();
+  const QPalette avant = QApplication::palette();
+  QPalette sombre = avant;
+  sombre.setColor(QPalette::Disabled, QPalette::WindowText, Qt::darkCyan);
+  const auto& bande = Le<QTabBar>("TabStrip1");
+  for (const QPalette& palette : {avant, sombre}) {
+    for (int de = 1; de <= ligne.onglets(); ++de) {
+      VaA(de);
+      QApplication::setPalette(palette);
+      QApplication::processEvents();  // the windows are told then
+      for (int vers = 1; vers <= ligne.onglets(); ++vers) {
+        const QColor inactif = palette.color(QPalette::Disabled, QPalette::WindowText);
+        EXPECT_EQ(bande.tabTextColor(vers - 1), Refuse(de, vers) ? inactif : QColor())
+            << de << ' ' << vers;
+        EXPECT_TRUE(bande.isTabEnabled(vers - 1));
+      }
+    }
+  }
+  QApplication::setPalette(avant);
+}
+
+TEST_P(Fenetres, EntreePresseLeBoutonQuiALeFocus) {
+  OuvreActive();
+  const EcouteF1 ecoute;
+  for (int onglet = 1; onglet <= ligne.onglets(); ++onglet) {
+    VaA(onglet);
+    BoutonAide(onglet).setFocus();
+    Frappe(Qt::Key_Return);
+    Frappe(Qt::Key_Enter, Qt::KeypadModifier);
+    EXPECT_EQ(ecoute.appuis, 2 * onglet);
+    for (const auto* bouton : Page(onglet).findChildren<QPushButton*>()) {
+      EXPECT_TRUE(bouton->autoDefault()) << bouton->objectName().toStdString();
+    }
+  }
+}
+
+TEST_P(Fenetres, CtrlEntreeConclutLaPageDOuQuOnSoit) {
+  OuvreActive();
+  for (int onglet = 1; onglet <= ligne.onglets(); ++onglet) {
+    for (const Qt::Key entree : {Qt::Key_Return, Qt::Key_Enter}) {
+      SurChaqueControle(onglet, [&](QWidget& controle) {
+        if (!Page(onglet).isAncestorOf(&controle)) {
+          return;  // the strip of tabs
+        }
+        const QString avant = Texte(controle);
+        const QPushButton* conclusion = Conclusion(onglet);
+        const QObject essai;
+        int clics = 0;
+        if (conclusion != nullptr) {
+          QObject::connect(conclusion, &QPushButton::clicked, &essai, [&] { ++clics; });
+        }
+        Frappe(entree, Qt::ControlModifier);
+        EXPECT_EQ(clics, conclusion == nullptr ? 0 : 1) << onglet;
+        EXPECT_FALSE(Texte(controle).contains(avant + u'\n'));
+      });
+    }
+  }
+  EXPECT_FALSE(FinVue());
+}
+
+TEST_P(FenetresAOnglets, UneConclusionInactiveNeRepondPas) {
+  OuvreActive();
+  for (int onglet = 1; onglet <= ligne.onglets(); ++onglet) {
+    VaA(onglet);
+    if (QPushButton* conclusion = Conclusion(onglet)) {
+      b.disque.OublieJournal();
+      conclusion->setEnabled(false);
+      BoutonAide(onglet).setFocus();
+      Frappe(Qt::Key_Return, Qt::ControlModifier);
+      EXPECT_EQ(this->onglet(), onglet);
+      EXPECT_THAT(b.disque.journal(), testing::IsEmpty());
+    }
+  }
+}
+
+TEST_P(FenetresAOnglets, AltFlecheParcourtLaListeDepuisSonTexte) {
+  b.AjouteRecette(3, "Beignets", "Des beignets.");
+  OuvreActive();
+  QComboBox& liste = *ListePrincipale();
+  ASSERT_GE(liste.count(), 2);
+  const int derniere = liste.count() - 1;
+  SurChaqueControle(1, [&](QWidget& controle) {
+    const bool estListe = qobject_cast<QComboBox*>(&controle) != nullptr;
+    const bool surLaPage = Page(1).isAncestorOf(&controle);
+    if (estListe || !surLaPage) {
+      return;
+    }
+    dynamic_cast<ComboListe&>(liste).Choisit(0);
+    for (const auto& [touche, attendu] :
+         {std::pair(Qt::Key_Up, 0), {Qt::Key_Down, 1}, {Qt::Key_Up, 0}}) {
+      controle.setFocus();
+      b.disque.OublieJournal();
+      const int avant = liste.currentIndex();
+      Frappe(touche, Qt::AltModifier);
+      EXPECT_EQ(liste.currentIndex(), attendu);
+      EXPECT_EQ(b.disque.journal().empty(), avant == attendu);
+    }
+    dynamic_cast<ComboListe&>(liste).Choisit(derniere);
+    Frappe(Qt::Key_Down, Qt::AltModifier);
+    EXPECT_EQ(liste.currentIndex(), derniere);
+  });
+}
+
+TEST_P(FenetresAOnglets, AltFlecheSurUneListeFermeeLOuvre) {
+  OuvreActive();
+  for (auto* liste : Page(1).findChildren<QComboBox*>()) {
+    const int choix = liste->currentIndex();
+    for (const Qt::Key touche : {Qt::Key_Down, Qt::Key_Up}) {
+      liste->setFocus();
+      Frappe(touche, Qt::AltModifier);
+      EXPECT_TRUE(liste->view()->isVisible());
+      Frappe(Qt::Key_PageDown, Qt::ControlModifier);
+      EXPECT_EQ(onglet(), 1);  // an open list has the keyboard to itself
+      Frappe(Qt::Key_Escape);
+      EXPECT_EQ(liste->currentIndex(), choix);
     }
   }
 }

@@ -29,11 +29,7 @@ namespace fs = std::filesystem;
 class Fabrique : public testing::Test {
  protected:
   void SetUp() override {
-    for (const auto& place : fs::directory_iterator(DOSSIER_PROGRAMME)) {
-      if (place.path().extension() == ".stp") {
-        fs::copy(place, b.dossier.chemin(), fs::copy_options::overwrite_existing);
-      }
-    }
+    b.GarnitDeFabrique(DOSSIER_PROGRAMME);
     fs::copy(fs::path(DOSSIER_PROGRAMME) / "IMAGE", b.dossier.chemin() / "IMAGE");
     b.Demarre();
     m = b.module.get();

@@ -193,5 +193,34 @@ TEST_P(FichesListe, UneLectureQuiEchoueALOuvertureFinitLeProgrammeSansAutreMessa
   AttendMessage("Erreur fatale. Impossibilité de continuer.", Icone::critique);
 }
 
+class TrucsDeFabrique : public FenetreEssai<frmTrucs> {
+ protected:
+  /// The tip that letters on the closed list and Return lead to.
+  QString Cherche(const char* lettres) {
+    b.GarnitDeFabrique(DOSSIER_PROGRAMME);
+    Ouvre();
+    fenetre->activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(fenetre.get()));
+    auto& trucs = Le<QComboBox>("ComboTrucs");
+    trucs.setFocus();
+    Frappe(QString(lettres));
+    Frappe(Qt::Key_Return);
+    EXPECT_TRUE(aLeFocus("txtTruc"));
+    return trucs.currentText();
+  }
+};
+
+TEST_F(TrucsDeFabrique, EmincerSeTrouveSansAccent) {
+  EXPECT_EQ(Cherche("emincer"), Fr("Émincer"));
+}
+
+TEST_F(TrucsDeFabrique, EcumerSeTrouveSansAccent) {
+  EXPECT_EQ(Cherche("ecumer"), Fr("Écumer"));
+}
+
+TEST_F(TrucsDeFabrique, UnMotDuTitreSuffit) {
+  EXPECT_EQ(Cherche("crepes"), Fr("Pâte à crêpes sans grumeaux"));
+}
+
 }  // namespace
 }  // namespace gastrelle::essai

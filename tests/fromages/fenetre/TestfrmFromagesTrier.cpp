@@ -159,6 +159,27 @@ TEST_F(TrierLesFromages, UnDoubleClicAfficheLeFromage) {
   EXPECT_EQ(fromages().currentText(), Fr("Valençay"));
 }
 
+TEST_F(TrierLesFromages, EntreeAfficheLeFromageChoisi) {
+  OuvreAvecDeuxChevres();
+  Choisit(lait(), 2);
+  QTest::keyClick(&liste(), Qt::Key_Down);
+  QTest::keyClick(&liste(), Qt::Key_Return);
+  EXPECT_EQ(onglet(), 1);
+  EXPECT_EQ(fromages().currentText(), Fr("Valençay"));
+}
+
+TEST_F(TrierLesFromages, CtrlEntreeAfficheCeQuiSeVoitSeulement) {
+  OuvreAvecDeuxChevres();
+  fenetre->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(fenetre.get()));
+  Frappe(Qt::Key_Return, Qt::ControlModifier);
+  EXPECT_EQ(onglet(), 5);
+  Choisit(lait(), 2);
+  Frappe(Qt::Key_Return, Qt::ControlModifier);
+  EXPECT_EQ(onglet(), 1);
+  EXPECT_EQ(fromages().currentText(), "banon");
+}
+
 TEST_F(TrierLesFromages, UnFromageQueLaListeNAPasNAfficheRien) {
   OuvreAvecDeuxChevres();
   RecFromage cache = Fromage("Rocamadour", "", 2);

@@ -373,6 +373,12 @@ TEST_F(Ajouter, LImageDuWebOuvreLaPageDesRecettes) {
   EXPECT_THAT(b.messages.vus, IsEmpty());
 }
 
+TEST_F(Ajouter, EntreeSurLImageDuWebLOuvreAussi) {
+  Ouvre(2);
+  QTest::keyClick(&Le("PictureWeb"), Qt::Key_Return);
+  EXPECT_THAT(b.association.cibles, testing::SizeIs(1));
+}
+
 TEST_F(Ajouter, SansNavigateurLImageDuWebLeDit) {
   Ouvre(2);
   b.association.reponse = Ouverture::aucuneAssociation;

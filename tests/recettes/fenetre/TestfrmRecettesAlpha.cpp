@@ -29,14 +29,14 @@ TEST_F(Alpha, ListeToutesLesRecettesEtLesCompte) {
   OuvreAlpha();
   EXPECT_EQ(cadre->contextes.back(), 15);
   EXPECT_EQ(Textes(liste()), (QStringList{"Soupe", "Tarte", Fr("Velouté")}));
-  EXPECT_EQ(Texte(Le("lblNbreRecette")), "Les 3 recettes");
+  EXPECT_EQ(Texte(Le("lblNbreRecette")).remove(u'&'), "Les 3 recettes");
   EXPECT_EQ(liste().currentIndex().row(), 0);
   EXPECT_TRUE(aLeFocus("lstRecettesTri"));
 }
 
 TEST_F(Alpha, CompteAuPlurielMemeUneSeule) {
   Ouvre(5);
-  EXPECT_EQ(Texte(Le("lblNbreRecette")), "Les 1 recettes");
+  EXPECT_EQ(Texte(Le("lblNbreRecette")).remove(u'&'), "Les 1 recettes");
 }
 
 TEST_F(Alpha, RepareUnCompteTropHaut) {
@@ -90,6 +90,31 @@ TEST_F(Alpha, UnDoubleClicFaitDeMeme) {
   QTest::mouseDClick(liste().viewport(), Qt::LeftButton, {}, ou);
   EXPECT_EQ(onglet(), 1);
   EXPECT_EQ(recettes().currentText(), Fr("Velouté"));
+}
+
+TEST_F(Alpha, EntreeSurUneRecetteLAffiche) {
+  OuvreAlpha();
+  Selectionne(0);
+  QTest::keyClick(&liste(), Qt::Key_Return);
+  EXPECT_EQ(onglet(), 1);
+  EXPECT_EQ(recettes().currentText(), "Soupe");
+  EXPECT_TRUE(aLeFocus("txtRecette"));
+}
+
+TEST_F(Alpha, LesRecettesDeLaFabriqueSeTrouventSansAccentNiLigature) {
+  b.GarnitDeFabrique(DOSSIER_PROGRAMME);
+  Ouvre(5);
+  const auto tape = [this](const char* mot) {
+    Selectionne(0);
+    QTest::qWait(1600);
+    Tape(liste(), mot);
+    return liste().currentIndex().data().toString();
+  };
+  EXPECT_EQ(tape("boeuf"), Fr("Bœuf aux carottes"));
+  EXPECT_EQ(tape("gateau"), Fr("Gâteau au yaourt"));
+  EXPECT_EQ(tape("crepes"), Fr("Crêpes de froment"));
+  EXPECT_EQ(tape("ile"), Fr("Îles flottantes"));
+  EXPECT_EQ(tape("huile"), Fr("Harengs et pommes à l'huile"));
 }
 
 TEST_F(Alpha, LaRecetteDejaAfficheeNeReliRien) {

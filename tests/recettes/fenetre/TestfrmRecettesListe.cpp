@@ -158,6 +158,23 @@ TEST_F(Liste, LePointeurEstUneFlechePendantLeMessageDeLImagePerdue) {
   EXPECT_FALSE(b.pointeur.sablier);
 }
 
+TEST_F(Liste, AuClavierUneFamilleSeChercheDansLaListeOuvertePuisSeChoisit) {
+  b.AjouteRecette(b.AjouteFamille("Veau"), "Blanquette", "Une blanquette.");
+  b.AjouteRecette(b.AjouteFamille("Viandes"), "Gigot", "Un gigot.");
+  Ouvre();
+  fenetre->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(fenetre.get()));
+  familles().setFocus();
+  Frappe("vi");
+  EXPECT_EQ(familles().currentText(), "Potages");
+  EXPECT_EQ(Texte(texte()), Fr("Un velouté."));
+  EXPECT_THAT(b.disque.journal(), testing::IsEmpty());
+  Frappe(Qt::Key_Return);
+  EXPECT_EQ(familles().currentText(), "Viandes");
+  EXPECT_EQ(Texte(texte()), "Un gigot.");
+  EXPECT_TRUE(aLeFocus("txtRecette"));
+}
+
 TEST_F(Liste, ChaqueChoixDonneLeFocusAuTexte) {
   b.AjouteRecette(b.AjouteFamille("Desserts"), "Tarte");
   Ouvre();
