@@ -90,6 +90,7 @@ void LecteurAide::doSetSource(const QUrl& adresse, QTextDocument::ResourceType g
   if (!debut.isNull()) {
     constexpr int lignesAuDessus = 3;
     debut.setPosition(debut.selectionStart());
+    setTextCursor(debut);  // from here a screen reader reads on
     verticalScrollBar()->setValue(verticalScrollBar()->value() + cursorRect(debut).top() -
                                   lignesAuDessus * fontMetrics().lineSpacing());
   }

@@ -212,6 +212,7 @@ TEST_F(AideEnLigne, F1VaAuParagrapheDuControle) {
   const QTextCursor paragraphe = Page().extraSelections().first().cursor;
   EXPECT_TRUE(paragraphe.selectedText().startsWith("L'image se choisit"));
   EXPECT_TRUE(Page().viewport()->rect().contains(Page().cursorRect(paragraphe).center()));
+  EXPECT_EQ(Page().textCursor().position(), paragraphe.selectionStart());
   boite.setObjectName("txtSansParagraphe");
   QTest::keyClick(&boite, Qt::Key_F1);
   EXPECT_TRUE(Page().source().fragment().isEmpty());
