@@ -14,15 +14,33 @@
 namespace gastrelle {
 namespace {
 
-/// The topic of a control: its own, or that of the nearest widget around it that has one.
-QString SujetDe(const QWidget* controle) {
+/// What the help has on a control: the topic is its own, or that of the nearest widget around it
+/// that has one; the paragraphs are the names met on the way.
+struct Renvoi {
+  QString sujet = QLatin1String(sujetAccueil);
+  QStringList paragraphes;
+};
+
+Renvoi RenvoiDe(const QWidget* controle) {
+  Renvoi renvoi;
   for (; controle != nullptr; controle = controle->parentWidget()) {
-    QString sujet = controle->property(proprieteSujet).toString();
+    renvoi.paragraphes << controle->objectName();
+    const QString sujet = controle->property(proprieteSujet).toString();
     if (!sujet.isEmpty()) {
-      return sujet;
+      renvoi.sujet = sujet;
+      break;
     }
   }
-  return QLatin1String(sujetAccueil);
+  return renvoi;
+}
+
+/// The window of the program on which the user works: not a dialog over it.
+const QWidget* FenetreDuProgramme() {
+  const QWidget* fenetre = QApplication::activeWindow();
+  while (fenetre != nullptr && fenetre->parentWidget() != nullptr) {
+    fenetre = fenetre->parentWidget()->window();
+  }
+  return fenetre;
 }
 
 bool EstF1(const QEvent& evenement) {
@@ -60,10 +78,11 @@ bool Aide::Prepare() {
     return false;
   }
   fenetre_ = std::make_unique<frmAide>(*fichier_);
+  fenetre_->PlaceAupresDe(FenetreDuProgramme());
   return true;
 }
 
-void Aide::Ouvre(const QString& sujet) {
+void Aide::Ouvre(const QString& sujet, const QStringList& paragraphes) {
   if (module_.fichierAide.empty() || !Prepare()) {
     return;
   }
@@ -71,9 +90,9 @@ void Aide::Ouvre(const QString& sujet) {
   while (menu != nullptr && menu->close()) {
     menu = QApplication::activePopupWidget();
   }
-  fenetre_->Montre(sujet);
   Rattache(QApplication::activeModalWidget());
   fenetre_->isMinimized() ? fenetre_->showNormal() : fenetre_->show();
+  fenetre_->Montre(sujet, paragraphes);  // once shown: the page knows its width
   fenetre_->raise();
   fenetre_->activateWindow();
 }
@@ -95,7 +114,8 @@ bool Aide::eventFilter(QObject* objet, QEvent* evenement) {
   if (EstF1(*evenement)) {
     if (auto* controle = qobject_cast<QWidget*>(objet)) {
       if (!static_cast<QKeyEvent*>(evenement)->isAutoRepeat()) {
-        Ouvre(SujetDe(controle));
+        const Renvoi renvoi = RenvoiDe(controle);
+        Ouvre(renvoi.sujet, renvoi.paragraphes);
       }
       return true;
     }

@@ -5,6 +5,7 @@
 
 #include <QObject>
 #include <QPointer>
+#include <QStringList>
 #include <QWidget>
 
 #include "data/Module1.h"
@@ -22,14 +23,15 @@ class Aide final : public QObject {
   explicit Aide(Module1& module);
   ~Aide() override;
 
-  /// Opens a topic. A help file that is missing or damaged is told with its own description.
-  void Ouvre(const QString& sujet);
+  /// Opens a topic, at the first of the named paragraphs that its page has. A help file that is
+  /// missing or damaged is told with its own description.
+  void Ouvre(const QString& sujet, const QStringList& paragraphes = {});
   /// Closes the help window.
   void Quitte();
 
  protected:
   /// The key F1, anywhere in the program: opens the topic of the control in focus, or of what it
-  /// lies in.
+  /// lies in, at the paragraph that bears the control's name, or the name of what it lies in.
   bool eventFilter(QObject* objet, QEvent* evenement) override;
 
  private:

@@ -8,6 +8,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QRegularExpression>
 #include <QResource>
 
 #include "plateforme/ErreurExecution.h"
@@ -100,6 +101,20 @@ QUrl FichierAide::Adresse(const QString& sujet) {
 
 QString FichierAide::Sujet(const QUrl& adresse) {
   return QFileInfo(adresse.path()).completeBaseName();
+}
+
+QStringList FichierAide::Ancres(const QString& sujet) {
+  static const QRegularExpression ancre(QStringLiteral("<a name=\"([^\"]+)\""));
+  const QString html = Html(sujet);
+  QStringList noms;
+  for (auto trouvees = ancre.globalMatch(html); trouvees.hasNext();) {
+    noms << trouvees.next().captured(1);
+  }
+  return noms;
+}
+
+bool FichierAide::ContientAncre(const QString& sujet, const QString& ancre) {
+  return Ancres(sujet).contains(ancre);
 }
 
 QString FichierAide::Html(const QString& sujet) {

@@ -6,6 +6,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QStringList>
 #include <QUrl>
 
 namespace gastrelle {
@@ -36,6 +37,11 @@ class FichierAide {
   [[nodiscard]] static QUrl Adresse(const QString& sujet);
   /// The topic of such an address.
   [[nodiscard]] static QString Sujet(const QUrl& adresse);
+  /// The names of a page's paragraphs: those of the controls that they are about, or of what
+  /// another page links to.
+  [[nodiscard]] static QStringList Ancres(const QString& sujet);
+  /// True if a page has a paragraph of that name.
+  [[nodiscard]] static bool ContientAncre(const QString& sujet, const QString& ancre);
   /// A page's source.
   [[nodiscard]] static QString Html(const QString& sujet);
 

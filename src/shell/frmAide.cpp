@@ -1,25 +1,38 @@
 #include "shell/frmAide.h"
 
 #include <algorithm>
+#include <array>
+#include <utility>
 
+#include <QGuiApplication>
 #include <QKeyEvent>
+#include <QScreen>
 #include <QShortcut>
-#include <QSplitter>
 #include <QTextCursor>
 #include <QVBoxLayout>
 
 #include "controles/Icones.h"
 #include "controles/Touches.h"
+#include "shell/PlaceAide.h"
 
 namespace gastrelle {
 namespace {
 
-constexpr int largeur = 980;
-constexpr int hauteur = 640;
-constexpr int largeurVolet = 320;
 constexpr int marge = 6;
-constexpr int margePage = 16;
+constexpr int retrait = 14;
+/// The contents take one part of the window's width, the page two.
+constexpr int partsLargeur = 3;
 constexpr int roleSujet = Qt::UserRole;
+
+/// How a key changes the size of the page's letters, in points; 0 gives the first one back. Some
+/// stand for another on a French keyboard: its 0 is shifted, its plus as well.
+struct ToucheTaille {
+  const char* touche;
+  int pas;
+};
+
+constexpr std::array<ToucheTaille, 5> touchesTaille{
+    {{"Ctrl++", 1}, {"Ctrl+=", 1}, {"Ctrl+-", -1}, {"Ctrl+0", 0}, {"Ctrl+À", 0}}};
 
 }  // namespace
 
@@ -30,7 +43,8 @@ frmAide::frmAide(const FichierAide& fichier)
       volet_(new QStackedWidget(this)),
       treeSommaire_(new QTreeWidget(this)),
       lstResultats_(new QListWidget(this)),
-      txtPage_(new QTextBrowser(this)) {
+      partage_(new QSplitter(this)),
+      txtPage_(new LecteurAide(this)) {
   setObjectName(QStringLiteral("frmAide"));
   setWindowTitle(QStringLiteral("Aide de Gastrelle"));
   setWindowIcon(IconeDe(QStringLiteral("aide"), plusGrandeIconeFenetre));
@@ -38,22 +52,31 @@ frmAide::frmAide(const FichierAide& fichier)
   setProperty(proprieteSujet, QStringLiteral("aide"));
   txtPage_->setObjectName(QStringLiteral("txtPage"));
   txtPage_->setAccessibleName(QStringLiteral("Page d'aide"));
-  txtPage_->document()->setDocumentMargin(margePage);
-
-  auto* partage = new QSplitter(this);
-  partage->addWidget(BatitVolet());
-  partage->addWidget(txtPage_);
-  partage->setChildrenCollapsible(false);
-  partage->setStretchFactor(1, 1);
-  partage->setSizes({largeurVolet, largeur - largeurVolet});
-  auto* page = new QVBoxLayout(this);
-  page->setContentsMargins(marge, 0, marge, marge);
-  page->addWidget(BatitBarre());
-  page->addWidget(partage, 1);
+  partage_->setObjectName(QStringLiteral("partage"));
+  partage_->setAccessibleName(QStringLiteral("Sommaire et page"));
+  partage_->addWidget(BatitVolet());
+  partage_->addWidget(txtPage_);
+  partage_->setChildrenCollapsible(false);
+  partage_->setStretchFactor(1, 1);
+  BatitBarre();
+  setCentralWidget(partage_);
+  setContentsMargins(marge, 0, marge, marge);
   RemplitSommaire();
   Branche();
   txtPage_->setFocus(Qt::OtherFocusReason);
-  resize(largeur, hauteur);
+}
+
+void frmAide::PlaceAupresDe(const QWidget* programme) {
+  const QScreen* ecran =
+      programme == nullptr ? QGuiApplication::primaryScreen() : programme->screen();
+  const QRect place = ecran->availableGeometry();
+  const QSize taille = TailleAide(place);
+  resize(taille);
+  if (programme != nullptr) {
+    const QRect prise = programme->frameGeometry();
+    // The border that the window manager will add is that of the other window.
+    move(CoinAide(place, taille + prise.size() - programme->size(), prise));
+  }
 }
 
 QAction* frmAide::Bouton(const char* nom, const QIcon& icone, const QString& titre,
@@ -68,8 +91,11 @@ QAction* frmAide::Bouton(const char* nom, const QIcon& icone, const QString& tit
   return action;
 }
 
-QToolBar* frmAide::BatitBarre() {
+void frmAide::BatitBarre() {
   barre_->setObjectName(QStringLiteral("tbAide"));
+  barre_->setWindowTitle(QStringLiteral("Barre d'outils de l'aide"));
+  barre_->setMovable(false);
+  barre_->setContextMenuPolicy(Qt::PreventContextMenu);
   barre_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
   QAction* precedent = Bouton("Precedent", style()->standardIcon(QStyle::SP_ArrowBack),
                               QStringLiteral("Précédent"), QKeySequence(Qt::ALT | Qt::Key_Left));
@@ -83,11 +109,8 @@ QToolBar* frmAide::BatitBarre() {
   connect(suivant, &QAction::triggered, txtPage_, &QTextBrowser::forward);
   connect(txtPage_, &QTextBrowser::backwardAvailable, precedent, &QAction::setEnabled);
   connect(txtPage_, &QTextBrowser::forwardAvailable, suivant, &QAction::setEnabled);
-  connect(sommaire, &QAction::triggered, this, [this] {
-    txtRecherche_->clear();
-    Montre({});
-  });
-  return barre_;
+  connect(sommaire, &QAction::triggered, this, [this] { Montre({}); });
+  addToolBar(barre_);
 }
 
 QWidget* frmAide::BatitVolet() {
@@ -98,8 +121,13 @@ QWidget* frmAide::BatitVolet() {
   treeSommaire_->setObjectName(QStringLiteral("treeSommaire"));
   treeSommaire_->setAccessibleName(QStringLiteral("Sommaire"));
   treeSommaire_->setHeaderHidden(true);
+  treeSommaire_->setIndentation(retrait);
+  treeSommaire_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   lstResultats_->setObjectName(QStringLiteral("lstResultats"));
   lstResultats_->setAccessibleName(QStringLiteral("Pages trouvées"));
+  lstResultats_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  txtRecherche_->installEventFilter(this);
+  lstResultats_->installEventFilter(this);
   volet_->addWidget(treeSommaire_);
   volet_->addWidget(lstResultats_);
   auto* panneau = new QWidget(this);
@@ -120,6 +148,7 @@ void frmAide::RemplitSommaire() {
     for (const PageAide& page : chapitre.pages) {
       auto* entree = new QTreeWidgetItem(tete, {page.titre});
       entree->setData(0, roleSujet, page.sujet);
+      entree->setToolTip(0, page.titre);
     }
   }
   treeSommaire_->expandAll();
@@ -129,14 +158,13 @@ void frmAide::Branche() {
   connect(treeSommaire_, &QTreeWidget::currentItemChanged, this,
           [this](const QTreeWidgetItem* entree) {
             if (entree != nullptr && !entree->data(0, roleSujet).isNull()) {
-              Montre(entree->data(0, roleSujet).toString());
+              MontrePage(entree->data(0, roleSujet).toString());
             }
           });
   connect(txtPage_, &QTextBrowser::sourceChanged, this,
-          [this](const QUrl& adresse) { SuitPage(FichierAide::Sujet(adresse)); });
+          [this](const QUrl& adresse) { SuitPage(adresse); });
   connect(txtRecherche_, &QLineEdit::textChanged, this, [this] { Cherche(); });
-  connect(txtRecherche_, &QLineEdit::returnPressed, this,
-          [this] { OuvreResultat(lstResultats_->item(0)); });
+  connect(txtRecherche_, &QLineEdit::returnPressed, this, [this] { VaAuVolet(); });
   connect(lstResultats_, &QListWidget::currentItemChanged, this,
           [this](const QListWidgetItem* entree) { OuvreResultat(entree); });
   connect(lstResultats_, &QListWidget::itemClicked, this,
@@ -148,13 +176,28 @@ void frmAide::Branche() {
     txtRecherche_->setFocus(Qt::ShortcutFocusReason);
     txtRecherche_->selectAll();
   });
-  raccourci(QKeySequence::ZoomIn, [this] { txtPage_->zoomIn(); });
-  raccourci(QKeySequence::ZoomOut, [this] { txtPage_->zoomOut(); });
+  for (const ToucheTaille& ligne : touchesTaille) {
+    raccourci(QKeySequence(QString::fromUtf8(ligne.touche)),
+              [this, &ligne] { txtPage_->Agrandit(ligne.pas); });
+  }
 }
 
-void frmAide::Montre(const QString& sujet) {
+void frmAide::Montre(const QString& sujet, const QStringList& paragraphes) {
+  txtRecherche_->clear();
+  txtPage_->setFocus(Qt::OtherFocusReason);
+  const auto trouve = std::find_if(
+      paragraphes.begin(), paragraphes.end(),
+      [&](const QString& paragraphe) { return FichierAide::ContientAncre(sujet, paragraphe); });
+  MontrePage(sujet, trouve == paragraphes.end() ? QString() : *trouve);
+}
+
+void frmAide::MontrePage(const QString& sujet, const QString& paragraphe) {
   const QString premiere = fichier_.sommaire().front().pages.front().sujet;
-  txtPage_->setSource(FichierAide::Adresse(fichier_.Contient(sujet) ? sujet : premiere));
+  QUrl adresse = FichierAide::Adresse(fichier_.Contient(sujet) ? sujet : premiere);
+  if (!paragraphe.isEmpty()) {
+    adresse.setFragment(paragraphe);
+  }
+  txtPage_->setSource(adresse);
 }
 
 void frmAide::Cherche() {
@@ -169,6 +212,7 @@ void frmAide::Cherche() {
   for (const PageAide& page : recherche_->Cherche(texte)) {
     auto* entree = new QListWidgetItem(page.titre, lstResultats_);
     entree->setData(roleSujet, page.sujet);
+    entree->setToolTip(page.titre);
   }
   if (lstResultats_->count() == 0) {
     auto* rien = new QListWidgetItem(QStringLiteral("Aucune page trouvée"), lstResultats_);
@@ -177,24 +221,44 @@ void frmAide::Cherche() {
   Surligne();
 }
 
+void frmAide::VaAuVolet() {
+  if (volet_->currentWidget() == treeSommaire_) {
+    treeSommaire_->setFocus(Qt::OtherFocusReason);
+    return;
+  }
+  QListWidgetItem* premiere = lstResultats_->item(0);
+  if (premiere->flags() != Qt::NoItemFlags) {
+    lstResultats_->setFocus(Qt::OtherFocusReason);
+    lstResultats_->setCurrentItem(premiere);
+    OuvreResultat(premiere);
+  }
+}
+
 void frmAide::OuvreResultat(const QListWidgetItem* entree) {
   if (entree != nullptr && !entree->data(roleSujet).isNull()) {
-    Montre(entree->data(roleSujet).toString());
+    MontrePage(entree->data(roleSujet).toString());
     VaAuPremierMot();
   }
 }
 
-void frmAide::SuitPage(const QString& sujet) {
+void frmAide::SuitPage(const QUrl& adresse) {
+  const QString sujet = FichierAide::Sujet(adresse);
   const QSignalBlocker silence(treeSommaire_);
   for (QTreeWidgetItemIterator i(treeSommaire_); *i != nullptr; ++i) {
     if ((*i)->data(0, roleSujet).toString() == sujet) {
       treeSommaire_->setCurrentItem(*i);
     }
   }
+  paragraphe_ = adresse.fragment();
   Surligne();
 }
 
 void frmAide::Surligne() {
+  const auto mots = MotsTrouves();
+  txtPage_->setExtraSelections(mots.isEmpty() ? txtPage_->MarqueDuParagraphe(paragraphe_) : mots);
+}
+
+QList<QTextEdit::ExtraSelection> frmAide::MotsTrouves() const {
   QTextCharFormat marque;
   marque.setBackground(QColor(255, 224, 110));
   marque.setForeground(Qt::black);
@@ -205,11 +269,11 @@ void frmAide::Surligne() {
       marques.append({ou, marque});
     }
   }
-  txtPage_->setExtraSelections(marques);
+  return marques;
 }
 
 void frmAide::VaAuPremierMot() {
-  const auto marques = txtPage_->extraSelections();
+  const auto marques = MotsTrouves();
   const auto premiere =
       std::min_element(marques.begin(), marques.end(),
                        [](const auto& a, const auto& b) { return a.cursor < b.cursor; });
@@ -225,7 +289,30 @@ void frmAide::keyPressEvent(QKeyEvent* evenement) {
     close();
     return;
   }
-  QWidget::keyPressEvent(evenement);
+  QMainWindow::keyPressEvent(evenement);
+}
+
+void frmAide::showEvent(QShowEvent* evenement) {
+  QMainWindow::showEvent(evenement);
+  if (!std::exchange(partagee_, true)) {
+    const int volet = width() / partsLargeur;
+    partage_->setSizes({volet, width() - volet});
+  }
+}
+
+bool frmAide::eventFilter(QObject* objet, QEvent* evenement) {
+  if (evenement->type() == QEvent::KeyPress) {
+    const int touche = static_cast<QKeyEvent*>(evenement)->key();
+    if (objet == txtRecherche_ && touche == Qt::Key_Down) {
+      VaAuVolet();
+      return true;
+    }
+    if (objet == lstResultats_ && touche == Qt::Key_Up && lstResultats_->currentRow() <= 0) {
+      txtRecherche_->setFocus(Qt::OtherFocusReason);
+      return true;
+    }
+  }
+  return QMainWindow::eventFilter(objet, evenement);
 }
 
 }  // namespace gastrelle

@@ -33,8 +33,9 @@ TEST_F(PagesDAide, LeSommaireCommenceParLAccueil) {
 
 TEST_F(PagesDAide, TousLesSujetsDuProgrammeOntLeurPage) {
   for (const char* sujet :
-       {"accueil", "aide", "cadre", "recettes-liste", "recettes-ajouter", "recettes-modifier",
-        "recettes-supprimer", "recettes-alpha", "visualisateur", "preferences"}) {
+       {"accueil", "aide", "cadre", "clavier", "lecture", "saisie", "recettes-liste",
+        "recettes-ajouter", "recettes-modifier", "recettes-supprimer", "recettes-alpha",
+        "visualisateur", "preferences"}) {
     EXPECT_TRUE(fichier->Contient(sujet)) << sujet;
   }
 }
@@ -47,14 +48,25 @@ TEST_F(PagesDAide, LeTitreDeChaquePageEstCeluiDuSommaire) {
 }
 
 TEST_F(PagesDAide, TousLesLiensMenentAUnePage) {
-  const QRegularExpression lien(QStringLiteral("href=\"([^\"]+)\\.html\""));
+  const QRegularExpression lien(QStringLiteral("href=\"([^\"]+)\\.html(?:#([^\"]+))?\""));
   for (const PageAide& page : pages) {
     auto liens = lien.globalMatch(FichierAide::Html(page.sujet));
     while (liens.hasNext()) {
-      const QString vers = liens.next().captured(1);
+      const QRegularExpressionMatch trouve = liens.next();
+      const QString vers = trouve.captured(1);
+      const QString paragraphe = trouve.captured(2);
       EXPECT_TRUE(fichier->Contient(vers))
           << page.sujet.toStdString() << ": " << vers.toStdString();
+      EXPECT_TRUE(paragraphe.isEmpty() || FichierAide::ContientAncre(vers, paragraphe))
+          << page.sujet.toStdString() << ": " << trouve.captured().toStdString();
     }
+  }
+}
+
+TEST_F(PagesDAide, UneAncreNEstQuUneFoisDansSaPage) {
+  for (const PageAide& page : pages) {
+    QStringList ancres = FichierAide::Ancres(page.sujet);
+    EXPECT_EQ(ancres.removeDuplicates(), 0) << page.sujet.toStdString();
   }
 }
 

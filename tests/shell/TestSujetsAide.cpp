@@ -1,9 +1,16 @@
 // The help topics of the windows as they stand in the real frame: each one has its page.
 
+#include <QTest>
+
 #include "controles/Touches.h"
+#include "doublures/AideVue.h"
 #include "doublures/CadreVrai.h"
 #include "doublures/ToutesFenetres.h"
+#include "maintenance/frmPreferences.h"
+#include "maintenance/frmSauvegarde.h"
 #include "shell/FichierAide.h"
+#include "shell/frmAbout.h"
+#include "shell/frmImage.h"
 
 namespace gastrelle::essai {
 namespace {
@@ -25,6 +32,40 @@ class SujetsDAide : public CadreVrai {
       sujets << fenetre.property(proprieteSujet).toString();
     }
     return sujets;
+  }
+
+  /// Runs a block on each tab of each window: the table's row of the window, what the keyboard
+  /// visits there, and the tab's topic.
+  template <class F>
+  void SurChaqueOnglet(F&& bloc) {
+    OuvreGarni();
+    b.module->fichierAide = DepuisUtf8(FICHIER_AIDE);
+    const auto fichier = FichierAide::Ouvre(QStringLiteral(FICHIER_AIDE));
+    ASSERT_NE(fichier, nullptr);
+    for (const LigneEssai& ligne : ToutesLesFenetres()) {
+      Choisit(ligne.entree);
+      auto& fenetre = dynamic_cast<FenetreOnglets&>(Le(ligne.nom));
+      for (int onglet = 1; onglet <= ligne.onglets(); ++onglet) {
+        fenetre.MontreOnglet(onglet);
+        const auto rang = static_cast<std::size_t>(onglet) - 1;
+        bloc(fenetre, QString::fromLatin1(ligne.clavier[rang]).split(u' '),
+             fenetre.property(proprieteSujet).toString());
+      }
+    }
+  }
+
+  static QUrl Adresse() { return Trouve<QTextBrowser>(*FenetreAide(), "txtPage").source(); }
+
+  /// The controls of a window that a page of the help names and that aren't there.
+  static QStringList Absents(const QString& sujet, const QList<const QObject*>& fenetres) {
+    QStringList absents;
+    for (const QString& nom : FichierAide::Ancres(sujet)) {
+      const bool present = std::any_of(fenetres.begin(), fenetres.end(), [&](const QObject* f) {
+        return f->objectName() == nom || f->findChild<QObject*>(nom) != nullptr;
+      });
+      absents << (present ? QStringList() : QStringList(nom));
+    }
+    return absents;
   }
 };
 
@@ -49,6 +90,57 @@ TEST_F(SujetsDAide, ChaqueOngletDeChaqueFenetreALeSienEtSaPage) {
   for (const QString& sujet : sujets) {
     EXPECT_TRUE(fichier->Contient(sujet)) << sujet.toStdString();
   }
+}
+
+TEST_F(SujetsDAide, ChaqueControleDUnOngletASonParagraphe) {
+  SurChaqueOnglet([](QWidget&, const QStringList& visites, const QString& sujet) {
+    for (const QString& nom : visites) {
+      EXPECT_TRUE(nom.startsWith("cmdAide") || FichierAide::ContientAncre(sujet, nom))
+          << sujet.toStdString() << ": " << nom.toStdString();
+    }
+  });
+}
+
+TEST_F(SujetsDAide, ChaqueParagrapheNommeEstCeluiDUnControle) {
+  SurChaqueOnglet([](QWidget& fenetre, const QStringList&, const QString& sujet) {
+    const auto* page = fenetre.findChild<QStackedWidget*>()->currentWidget();
+    QStringList absents = Absents(sujet, {page});
+    absents.removeAll("TabStrip1");
+    EXPECT_EQ(absents.join(u' ').toStdString(), "") << sujet.toStdString();
+  });
+}
+
+TEST_F(SujetsDAide, LesParagraphesDuCadreEtDesDialoguesSontCeuxDeLeursControles) {
+  OuvreGarni();
+  const frmAbout aPropos(*b.module, nullptr);
+  const frmSauvegarde sauvegarde(*b.module);
+  const frmPreferences preferences(*b.module, nullptr);
+  const frmImage image(*b.module, "x.jpg", nullptr);
+  b.module->fichierAide = DepuisUtf8(FICHIER_AIDE);
+  Choisit("mnuHelpContents");
+  EXPECT_EQ(Absents("aide", {FenetreAide()}), QStringList());
+  EXPECT_EQ(Absents("cadre", {cadre.get(), &aPropos, &sauvegarde}), QStringList());
+  EXPECT_EQ(Absents("preferences", {&preferences}), QStringList());
+  EXPECT_EQ(Absents("visualisateur", {&image}), QStringList());
+}
+
+TEST_F(SujetsDAide, F1DUnControleDefileASonParagraphe) {
+  SurChaqueOnglet([](QWidget& fenetre, const QStringList& visites, const QString& sujet) {
+    for (const QString& nom : visites) {
+      auto* controle = fenetre.findChild<QWidget*>(nom);
+      if (nom.startsWith("cmdAide") || controle == nullptr || !controle->isEnabled()) {
+        continue;
+      }
+      QTest::keyClick(controle, Qt::Key_F1);
+      EXPECT_EQ(SujetAide(), sujet);
+      EXPECT_EQ(Adresse().fragment(), nom) << sujet.toStdString();
+      const auto& page = Trouve<QTextBrowser>(*FenetreAide(), "txtPage");
+      ASSERT_EQ(page.extraSelections().size(), 1) << nom.toStdString();
+      QTextCursor debut = page.extraSelections().first().cursor;
+      debut.setPosition(debut.selectionStart());
+      EXPECT_TRUE(page.viewport()->rect().contains(page.cursorRect(debut))) << nom.toStdString();
+    }
+  });
 }
 
 TEST_F(SujetsDAide, SeulsLesFromagesOntUneLigneDansLaBandeDuLogo) {
