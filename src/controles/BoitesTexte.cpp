@@ -12,9 +12,9 @@ bool EstVide(const QWidget& boite) {
 void VideBoites(std::span<QWidget* const> boites) {
   for (QWidget* boite : boites) {
     if (auto* zone = dynamic_cast<ZoneTexte*>(boite)) {
-      zone->PoseTexte({});
+      zone->RemplaceTexte({});
     } else {
-      dynamic_cast<LigneTexte&>(*boite).PoseTexte({});
+      dynamic_cast<LigneTexte&>(*boite).RemplaceTexte({});
     }
   }
 }

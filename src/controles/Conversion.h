@@ -39,22 +39,4 @@ inline std::string DepuisQt(const QString& texte) {
   return resultat;
 }
 
-/// What a box may hold of a text that is typed or pasted: composed form, "?" for what the files
-/// can't hold. `perte` tells whether a character was lost.
-inline QString Acceptable(const QString& texte, bool& perte) {
-  const QString compose = texte.normalized(QString::NormalizationForm_C);
-  QString resultat;
-  resultat.reserve(compose.size());
-  perte = false;
-  for (const QChar c : compose) {
-    if (c.isLowSurrogate()) {
-      continue;
-    }
-    const bool tient = OctetDe(c.unicode()) >= 0;
-    perte = perte || !tient;
-    resultat += tient ? c : QChar(u'?');
-  }
-  return resultat;
-}
-
 }  // namespace gastrelle

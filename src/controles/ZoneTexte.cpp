@@ -3,10 +3,12 @@
 #include <algorithm>
 
 #include <QApplication>
+#include <QKeyEvent>
 #include <QTextBlock>
 #include <QTextCursor>
 
 #include "controles/Conversion.h"
+#include "controles/Transcription.h"
 
 namespace gastrelle {
 namespace {
@@ -15,10 +17,6 @@ namespace {
 /// does, and come back as they were. On the screen these stand for them.
 constexpr QChar lfSeul{QChar::LineSeparator};
 constexpr QChar crSeul{u'\x85'};
-
-bool EstFinDeLigne(QChar c) {
-  return c == QChar::ParagraphSeparator || c == lfSeul || c == crSeul;
-}
 
 QString Montrable(std::string_view texte) {
   return VersQt(texte)
@@ -40,6 +38,10 @@ qsizetype LongueurRangee(const QTextDocument& document) {
   return document.characterCount() - 1 + document.blockCount() - 1;
 }
 
+qsizetype LongueurRangee(const QString& passage) {
+  return passage.size() + passage.count(QChar::ParagraphSeparator);
+}
+
 }  // namespace
 
 ZoneTexte::ZoneTexte(const QString& nom, int limite, QWidget* parent)
@@ -51,12 +53,25 @@ ZoneTexte::ZoneTexte(const QString& nom, int limite, QWidget* parent)
     debutSaisie_ = ou;
     finSaisie_ = ou + ajoutes;
   });
+  connect(document(), &QTextDocument::redoAvailable, this,
+          [this](bool possible) { refaisable_ = possible; });
   connect(this, &QPlainTextEdit::textChanged, this, [this] { Corrige(); });
 }
 
 void ZoneTexte::PoseTexte(std::string_view texte) {
   parCode_ = true;
   setPlainText(Montrable(texte));
+  parCode_ = false;
+}
+
+void ZoneTexte::RemplaceTexte(std::string_view texte) {
+  parCode_ = true;
+  QTextCursor tout(document());
+  if (Texte() != texte) {
+    tout.select(QTextCursor::Document);
+    tout.insertText(Montrable(texte));
+  }
+  setTextCursor(QTextCursor(document()));
   parCode_ = false;
 }
 
@@ -69,48 +84,65 @@ void ZoneTexte::RendLectureSeule() {
   setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
 }
 
+void ZoneTexte::keyPressEvent(QKeyEvent* touche) {
+  // What is going to be corrected is a step of its own, so that it is undone with its correction.
+  const QString texte = touche->text();
+  const bool pleine = limite_ > 0 && LongueurRangee(*document()) >= limite_;
+  const bool corrigee =
+      !texte.isEmpty() && (!SeRange(texte) || (pleine && texte.front().isPrint()));
+  QTextCursor saisie(document());
+  if (corrigee) {
+    saisie.beginEditBlock();
+  }
+  QPlainTextEdit::keyPressEvent(touche);
+  if (corrigee) {
+    saisie.endEditBlock();
+  }
+}
+
 void ZoneTexte::Corrige() {
-  // What is undone brings back what was right before.
-  if (parCode_ || finSaisie_ <= debutSaisie_ || document()->isRedoAvailable()) {
+  // What is undone or done again brings back what was right before; of the last step to be done
+  // again the document tells only afterwards.
+  if (parCode_ || finSaisie_ <= debutSaisie_ || document()->isRedoAvailable() || refaisable_) {
     return;
   }
   parCode_ = true;
-  // A combining accent composes with the letter before it.
-  const bool apresUneLettre =
-      debutSaisie_ > 0 && !EstFinDeLigne(document()->characterAt(debutSaisie_ - 1));
-  CorrigePassage(apresUneLettre ? debutSaisie_ - 1 : debutSaisie_,
-                 std::min(finSaisie_, document()->characterCount() - 1));
+  const int debut = DebutLecture(
+      debutSaisie_, [this](int position) { return document()->characterAt(position); });
+  CorrigePassage(debut, debutSaisie_, std::min(finSaisie_, document()->characterCount() - 1));
   parCode_ = false;
 }
 
-void ZoneTexte::CorrigePassage(int debut, int fin) {
+void ZoneTexte::CorrigePassage(int debut, int saisie, int fin) {
   QTextCursor passage(document());
   passage.setPosition(debut);
   passage.setPosition(fin, QTextCursor::KeepAnchor);
   // selectedText turns no line into "\n": paragraphs stay paragraph separators.
-  QString saisi = passage.selectedText();
-  const QString avant = saisi;
-  saisi.replace(QChar::ParagraphSeparator, QChar(u'\n'))
-      .replace(lfSeul, QChar(u'\n'))
-      .replace(crSeul, QChar(u'\n'));
-  bool perte = false;
-  QString garde = Acceptable(saisi, perte);
-  const qsizetype trop =
-      limite_ > 0 ? LongueurRangee(*document()) - limite_ - (saisi.size() - garde.size()) : 0;
-  bool coupe = false;
-  for (qsizetype reste = trop; reste > 0 && !garde.isEmpty(); coupe = true) {
-    reste -= garde.back() == u'\n' ? 2 : 1;
-    garde.chop(1);
-  }
-  if (perte || coupe) {
+  const QString avant = passage.selectedText();
+  const Transcription transcription =
+      Transcrit(QString(avant).replace(QChar::ParagraphSeparator, QChar(u'\n')));
+  const QString entier =
+      QString(transcription.texte).replace(QChar(u'\n'), QChar::ParagraphSeparator);
+  const QString garde = Tenue(avant, entier, saisie - debut);
+  if (transcription.perte || garde != entier) {
     QApplication::beep();
   }
-  if (garde != QString(avant).replace(QChar::ParagraphSeparator, QChar(u'\n'))) {
+  if (garde != avant) {
     passage.joinPreviousEditBlock();
     passage.insertText(garde);
     passage.endEditBlock();
     setTextCursor(passage);
   }
+}
+
+QString ZoneTexte::Tenue(const QString& avant, QString garde, qsizetype acquis) const {
+  if (limite_ > 0) {
+    const qsizetype autour = LongueurRangee(*document()) - LongueurRangee(avant);
+    while (garde.size() > acquis && autour + LongueurRangee(garde) > limite_) {
+      garde.chop(1);
+    }
+  }
+  return garde;
 }
 
 }  // namespace gastrelle

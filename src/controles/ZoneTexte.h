@@ -1,14 +1,15 @@
 // The text box of several lines. What is on display is what can be stored: anything typed or pasted
-// is put in composed form at once, and a character that Windows-1252 doesn't hold shows as "?" with
-// a beep.
+// is transcribed at once, and a character that is lost shows as "?" with a beep.
 #pragma once
 
 #include <string>
 #include <string_view>
 
 #include <QPlainTextEdit>
+#include <QString>
 
 #include "controles/LimiteTexte.h"
+#include "controles/Reprise.h"
 
 namespace gastrelle {
 
@@ -21,19 +22,32 @@ class ZoneTexte : public QPlainTextEdit {
 
   /// Shows a text (Windows-1252), the cursor at its head.
   void PoseTexte(std::string_view texte);
+  /// Shows a text as `PoseTexte` does, in one step that can be undone. Where the box shows that
+  /// very text, the cursor alone moves.
+  void RemplaceTexte(std::string_view texte);
   /// The text with CR LF line breaks (Windows-1252).
   [[nodiscard]] std::string Texte() const;
 
   /// Read-only boxes stay selectable.
   void RendLectureSeule();
 
+  [[nodiscard]] Reprise& reprise() { return reprise_; }
+
+ protected:
+  void keyPressEvent(QKeyEvent* touche) override;
+
  private:
   void Corrige();
-  /// Keeps what fits of the text between two positions of the document.
-  void CorrigePassage(int debut, int fin);
+  /// Keeps what fits of the text between two positions of the document. It was typed from `saisie`
+  /// on: what stands before is never cut.
+  void CorrigePassage(int debut, int saisie, int fin);
+  /// The characters of `garde` that fit in the place of `avant`, of which the first `acquis` stay.
+  [[nodiscard]] QString Tenue(const QString& avant, QString garde, qsizetype acquis) const;
 
   int limite_;
+  Reprise reprise_;
   bool parCode_ = false;
+  bool refaisable_ = false;  ///< what was undone could be done again before the present change
   int debutSaisie_ = 0;
   int finSaisie_ = 0;
 };

@@ -22,7 +22,7 @@ void frmFichesModifier::Valide() {
   RogneTexte(*titre);
   if (EstVide(*titre)) {
     hote().Refuse(description.sansTitreModifier, nullptr);
-    titre->PoseTexte(liste.combo->Texte());
+    titre->RemplaceTexte(liste.combo->Texte());
     DonneFocus(titre);
     return;
   }

@@ -21,8 +21,9 @@ frmFichesSaisie::frmFichesSaisie(const PlaceOnglet& place, frmFichesListe& laLis
 }
 
 void frmFichesSaisie::Reprend() {
-  titre->PoseTexte(liste.combo->Texte());
-  texte->PoseTexte(liste.texte->Texte());
+  const std::int32_t numero = liste.combo->currentData().toInt();
+  ReprendTexte(*titre, liste.combo->Texte(), numero);
+  ReprendTexte(*texte, liste.texte->Texte(), numero);
 }
 
 }  // namespace gastrelle

@@ -15,10 +15,11 @@ frmFromagesModifier::frmFromagesModifier(const PlaceOnglet& place, frmFromagesLi
 
 void frmFromagesModifier::Entre() {
   const RecFromage& courant = module().bufFromage.courant();
-  txtFromage->PoseTexte(liste_.fromage.nom);
-  txtRegion->PoseTexte(liste_.fromage.region);
+  const std::int32_t numero = liste_.ComboFromages->currentData().toInt();
+  ReprendTexte(*txtFromage, liste_.fromage.nom, numero);
+  ReprendTexte(*txtRegion, liste_.fromage.region, numero);
   MontreCodes(courant.lait, courant.premierMois, courant.dernierMois);
-  txtNotes->PoseTexte(liste_.fromage.notes);
+  ReprendTexte(*txtNotes, liste_.fromage.notes, numero);
   DonneFocus(txtFromage);
 }
 
@@ -27,7 +28,7 @@ void frmFromagesModifier::Valide() {
   const std::string nom = txtFromage->Texte();
   if (nom.empty()) {
     hote().Refuse("Il faut donner un nom au fromage."_1252, nullptr);
-    txtFromage->PoseTexte(liste_.ComboFromages->Texte());
+    txtFromage->RemplaceTexte(liste_.ComboFromages->Texte());
     DonneFocus(txtFromage);
     return;
   }

@@ -78,7 +78,7 @@ void frmRecettesAjouter::ValideFamille() {
   liste.RechargeFamilles();
   ComboListe& affichees = *liste.ComboFamilles;
   const int indice = affichees.IndiceDe(numero);
-  famille->PoseTexte({});
+  famille->RemplaceTexte({});
   hote().ChoisitOnglet(ongletListe);
   affichees.Choisit(indice);
 }

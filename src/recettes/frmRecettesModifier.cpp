@@ -36,16 +36,17 @@ frmRecettesModifier::frmRecettesModifier(const PlaceOnglet& place, frmRecettesLi
 }
 
 void frmRecettesModifier::ReprendFamille() {
-  famille->PoseTexte(liste.ComboFamilles->Texte());
+  ReprendTexte(*famille, liste.ComboFamilles->Texte(), liste.ComboFamilles->currentData().toInt());
 }
 
 void frmRecettesModifier::ReprendRecette() {
   ReprendIndiceFamille();
-  titre->PoseTexte(liste.ComboRecettes->Texte());
-  texte->PoseTexte(liste.txtRecette->Texte());
+  const std::int32_t numero = liste.ComboRecettes->currentData().toInt();
+  ReprendTexte(*titre, liste.ComboRecettes->Texte(), numero);
+  ReprendTexte(*texte, liste.txtRecette->Texte(), numero);
   // In an empty family the tag is still that of the picture shown before.
   const bool vide = liste.ComboRecettes->entrees().empty();
-  image->PoseTexte(vide ? std::string() : liste.Image());
+  ReprendTexte(*image, vide ? std::string() : liste.Image(), numero);
 }
 
 void frmRecettesModifier::Entre() {
@@ -109,7 +110,7 @@ void frmRecettesModifier::ValideRecette() {
   RogneTexte(*titre);
   if (EstVide(*titre)) {
     hote().Refuse("Il faut donner un titre à la recette."_1252, nullptr);
-    titre->PoseTexte(liste.ComboRecettes->Texte());
+    titre->RemplaceTexte(liste.ComboRecettes->Texte());
     DonneFocus(titre);
     return;
   }
@@ -119,7 +120,7 @@ void frmRecettesModifier::ValideRecette() {
   RogneTexte(*texte);
   RogneTexte(*image);
   if (!EstVide(*image) && ImageRefusee()) {
-    image->PoseTexte(liste.Image());
+    image->RemplaceTexte(liste.Image());
     DonneFocus(cherche);
     return;
   }

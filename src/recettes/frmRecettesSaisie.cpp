@@ -20,6 +20,7 @@ frmRecettesSaisie::frmRecettesSaisie(const PlaceOnglet& place, frmRecettesListe&
       image(new LigneTexte(QLatin1String(noms.image), sansLimite, this)),
       cherche(Bouton(QLatin1String(noms.cherche), QStringLiteral("I&mage..."),
                      QStringLiteral("dossier"), QStringLiteral("Rechercher une image"), this)) {
+  image->RendChemin();
   liste.familles.Suit(*familles);
   AjouteACote(QString::fromUtf16(noms.legendeFamille), famille);
   AjouteACote(QStringLiteral("La famille &de la recette"), familles);

@@ -4,6 +4,7 @@
 #include <array>
 
 #include <QClipboard>
+#include <QInputMethodEvent>
 #include <QTest>
 #include <gtest/gtest.h>
 
@@ -30,23 +31,29 @@ class Boites : public testing::Test {
     QApplication::clipboard()->setText(texte);
     boite->paste();
   }
-  /// A right click, then a click on the entry that pastes. False if that can't be chosen.
-  bool ColleParLeMenu() {
+  bool ColleParLeMenu() { return ChoisitAuMenu("Coller"); }
+  /// A right click, then a click on an entry, by how it begins. False if it can't be chosen.
+  bool ChoisitAuMenu(const QString& entree) {
     const QPoint ou(5, 5);
     QContextMenuEvent clicDroit(QContextMenuEvent::Mouse, ou, boite->mapToGlobal(ou));
     auto* cible = boite->template findChild<QWidget*>("qt_scrollarea_viewport");
     QApplication::sendEvent(cible == nullptr ? boite.get() : cible, &clicDroit);
     auto& menu = dynamic_cast<QMenu&>(*QApplication::activePopupWidget());
-    bool colle = false;
+    bool permise = false;
     for (QAction* action : menu.actions()) {
-      if (action->text().remove(u'&').startsWith("Coller")) {
-        colle = action->isEnabled();
+      if (action->text().remove(u'&').startsWith(entree)) {
+        permise = action->isEnabled();
         QTest::mouseClick(&menu, Qt::LeftButton, {}, menu.actionGeometry(action).center());
       }
     }
     menu.close();
-    return colle;
+    return permise;
   }
+  void Annule() { QTest::keyClick(boite.get(), Qt::Key_Z, Qt::ControlModifier); }
+  void Refait() {
+    QTest::keyClick(boite.get(), Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+  }
+  void Vide() { VideBoites({{boite.get()}}); }
 
   std::unique_ptr<Boite> boite;
 };
@@ -73,7 +80,7 @@ TYPED_TEST(Boites, GardentLEspaceInsecable) {
 TYPED_TEST(Boites, MontrentUnPointDInterrogationPourCeQuiNeSeRangePas) {
   this->Montre(sansLimite);
   this->Colle(Fr("a日b🍲c"));
-  EXPECT_EQ(Texte(*this->boite), "a?b?c");
+  EXPECT_EQ(Texte(*this->boite), "a?b c");
 }
 
 TYPED_TEST(Boites, ComposentUnAccentColle) {
@@ -139,6 +146,163 @@ TYPED_TEST(Boites, DisentLeurLimite) {
   EXPECT_EQ(this->boite->property("maxLength").toInt(), 128);
 }
 
+TYPED_TEST(Boites, RendentParCtrlZCeQuOnALeurAVide) {
+  this->Montre(sansLimite);
+  Tape(*this->boite, "soupe");
+  this->Vide();
+  EXPECT_EQ(this->boite->Texte(), "");
+  this->Vide();  // an empty box has nothing to forget
+  this->Annule();
+  EXPECT_EQ(this->boite->Texte(), "soupe");
+  this->Refait();
+  EXPECT_EQ(this->boite->Texte(), "");
+  this->Annule();
+  EXPECT_EQ(this->boite->Texte(), "soupe");
+}
+
+TYPED_TEST(Boites, RendentParCtrlZCeQueCtrlYLeurAReprisDeNouveau) {
+  this->Montre(sansLimite);
+  Tape(*this->boite, "soupe");
+  this->Vide();
+  this->Annule();
+  QTest::keyClick(this->boite.get(), Qt::Key_Y, Qt::ControlModifier);
+  EXPECT_EQ(this->boite->Texte(), "");
+}
+
+TYPED_TEST(Boites, RendentParLeurMenuCeQuOnALeurAVide) {
+  this->Montre(sansLimite);
+  Tape(*this->boite, "soupe");
+  this->Vide();
+  EXPECT_TRUE(this->ChoisitAuMenu("Annuler"));
+  EXPECT_EQ(this->boite->Texte(), "soupe");
+}
+
+TYPED_TEST(Boites, VideesPuisRenduesGardentLeurLimite) {
+  this->Montre(5);
+  Tape(*this->boite, "soupe");
+  this->Vide();
+  Tape(*this->boite, "abcdefg");
+  EXPECT_EQ(this->boite->Texte(), "abcde");
+  for (int fois = 0; fois < 5 && this->boite->Texte() != "soupe"; ++fois) {
+    this->Annule();
+    EXPECT_LE(this->boite->Texte().size(), 5U);
+  }
+  EXPECT_EQ(this->boite->Texte(), "soupe");
+  QTest::keyClick(this->boite.get(), Qt::Key_End);
+  Tape(*this->boite, "s");
+  EXPECT_EQ(this->boite->Texte(), "soupe");
+}
+
+TYPED_TEST(Boites, CorrigentEncoreApresUnVidageAnnule) {
+  this->Montre(sansLimite);
+  Tape(*this->boite, "soupe");
+  this->Vide();
+  this->Annule();
+  this->boite->selectAll();
+  this->Colle(Fr("日⅓"));
+  EXPECT_EQ(this->boite->Texte(), "?1/3");
+}
+
+TYPED_TEST(Boites, NeCorrigentPasCeQueLeProgrammeARemis) {
+  const std::string octets = "a\xAD\x01z";
+  this->Montre(sansLimite);
+  this->boite->PoseTexte("soupe");
+  this->boite->RemplaceTexte(octets);
+  this->Annule();
+  EXPECT_EQ(this->boite->Texte(), "soupe");
+  this->Refait();
+  EXPECT_EQ(this->boite->Texte(), octets);
+  this->Vide();
+  this->Annule();
+  EXPECT_EQ(this->boite->Texte(), octets);
+  QTest::keyClick(this->boite.get(), Qt::Key_End);
+  Tape(*this->boite, "x");
+  EXPECT_EQ(this->boite->Texte().size(), octets.size() + 1);
+}
+
+TYPED_TEST(Boites, GardentUnCollageEtSaSaisiePourDeuxAnnulations) {
+  this->Montre(sansLimite);
+  Tape(*this->boite, "soupe");
+  this->boite->selectAll();
+  this->boite->cut();
+  this->boite->paste();
+  EXPECT_EQ(this->boite->Texte(), "soupe");
+  this->Annule();
+  EXPECT_EQ(this->boite->Texte(), "");
+  this->Annule();
+  EXPECT_EQ(this->boite->Texte(), "soupe");
+}
+
+TYPED_TEST(Boites, NAnnulentUnCaracterePerduQuAvecSaCorrection) {
+  this->Montre(sansLimite);
+  Tape(*this->boite, Fr("日"));
+  EXPECT_EQ(this->boite->Texte(), "?");
+  this->Annule();
+  EXPECT_EQ(this->boite->Texte(), "");
+}
+
+TYPED_TEST(Boites, LisentUneFractionTapeeAvecLeNombreDAvant) {
+  this->Montre(sansLimite);
+  Tape(*this->boite, Fr("1⅓ à 2\u2009kg"));
+  EXPECT_EQ(this->boite->Texte(), "1 1/3 à 2 kg"_1252);
+}
+
+TYPED_TEST(Boites, LisentCeQueRemetUneMethodeDeSaisie) {
+  this->Montre(sansLimite);
+  Tape(*this->boite, "1");
+  QInputMethodEvent compose(QStringLiteral("1/3"), {});
+  QApplication::sendEvent(this->boite.get(), &compose);
+  QInputMethodEvent remis;
+  remis.setCommitString(Fr("⅓"));
+  QApplication::sendEvent(this->boite.get(), &remis);
+  EXPECT_EQ(this->boite->Texte(), "1 1/3");
+}
+
+TYPED_TEST(Boites, ComptentLeurLimiteApresLaTranscription) {
+  this->Montre(5);
+  this->Colle(Fr("a\u200B\u200B\u200B℃🍋de"));
+  EXPECT_EQ(this->boite->Texte(), "a°C d"_1252);
+  this->boite->selectAll();
+  this->Colle(Fr("①⅓⅔"));
+  EXPECT_EQ(this->boite->Texte(), "1 1/3");
+}
+
+TYPED_TEST(Boites, ReprennentUnTexteDeLaMemeFicheEnUnPasQuiSAnnule) {
+  this->Montre(sansLimite);
+  ReprendTexte(*this->boite, "soupe", 7);
+  Tape(*this->boite, "x");
+  const std::string saisi = this->boite->Texte();
+  ReprendTexte(*this->boite, "soupe", 7);
+  EXPECT_EQ(this->boite->Texte(), "soupe");
+  this->Annule();
+  EXPECT_EQ(this->boite->Texte(), saisi);
+}
+
+TYPED_TEST(Boites, NeRendentJamaisUneSaisieDUneAutreFiche) {
+  for (const auto& [texte, numero] : {std::pair("soupe", 8), std::pair("potage", 7)}) {
+    this->Montre(sansLimite);
+    ReprendTexte(*this->boite, "soupe", 7);
+    Tape(*this->boite, "x");
+    ReprendTexte(*this->boite, texte, numero);
+    this->Annule();
+    EXPECT_EQ(this->boite->Texte(), texte);
+  }
+}
+
+TYPED_TEST(Boites, SansBlancARognerGardentCeQuiSAnnule) {
+  this->Montre(sansLimite);
+  for (const char* saisi : {"soupe", "  soupe "}) {
+    Tape(*this->boite, saisi);
+    RogneTexte(*this->boite);
+    EXPECT_EQ(this->boite->Texte(), "soupe");
+    while (this->boite->Texte() != "") {
+      const std::string avant = this->boite->Texte();
+      this->Annule();
+      ASSERT_NE(this->boite->Texte(), avant);
+    }
+  }
+}
+
 TYPED_TEST(Boites, RognentLesBlancsEtEuxSeuls) {
   this->Montre(sansLimite);
   this->boite->PoseTexte("  \xA0soupe  ");
@@ -190,6 +354,26 @@ TEST_F(Ligne, UnCollageNYLaisseNiFinDeLigneNiTabulation) {
     Colle(texte);
     AttendSansSigneDeCommande();
   }
+}
+
+TEST_F(Ligne, UnCheminGardeLeNomDuFichier) {
+  Montre(sansLimite);
+  boite->RendChemin();
+  Colle(Fr("/a\u00ADb·1\u202Fc.jpg"));
+  EXPECT_EQ(boite->Texte(),
+            "/a\xAD"
+            "b\xB7"
+            "1?c.jpg");
+}
+
+TEST_F(Ligne, UneSaisieNeChangeQueCeQuiEstSaisi) {
+  Montre(sansLimite);
+  boite->PoseTexte("a\xAD\x0Bz");
+  boite->end(false);
+  Tape(*boite, Fr("e\u0301⅓"));
+  EXPECT_EQ(boite->Texte(),
+            "a\xAD\x0Bz\xE9"
+            "1/3");
 }
 
 TEST_F(Ligne, LaCommandeCollerNYLaisseNiFinDeLigneNiTabulation) {
@@ -347,6 +531,33 @@ TEST_F(Zone, ApresUneAnnulationUneSaisieSeCorrigeEncore) {
   EXPECT_EQ(boite->Texte(), "");
   Colle(Fr("日bcdef"));
   EXPECT_EQ(boite->Texte(), "?bcd");
+}
+
+TEST_F(Zone, UneFinDeLigneSeuleRevientAussiQuandOnRefait) {
+  const std::string octets = "a\nb\rc\r\nd";
+  Montre(sansLimite);
+  boite->PoseTexte("soupe");
+  boite->RemplaceTexte(octets);
+  boite->undo();
+  EXPECT_EQ(boite->Texte(), "soupe");
+  boite->redo();
+  EXPECT_EQ(boite->Texte(), octets);
+}
+
+TEST_F(Zone, UneSaisieDansUneBoiteTropPleineNeCoupePasCeQuiEtaitLa) {
+  Montre(4);
+  boite->PoseTexte("abcdef");
+  boite->moveCursor(QTextCursor::End);
+  Tape(*boite, "gh");
+  EXPECT_EQ(boite->Texte(), "abcdef");
+}
+
+TEST_F(Zone, TrenteMilleCaracteresVidesReviennent) {
+  Montre(30000);
+  Colle(QString(30000, u'x'));
+  Vide();
+  boite->undo();
+  EXPECT_EQ(boite->Texte().size(), 30000U);
 }
 
 TEST_F(Zone, LaTabulationChangeDeBoite) {

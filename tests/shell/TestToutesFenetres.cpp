@@ -9,6 +9,7 @@
 #include <QTest>
 
 #include "controles/BandeauLogo.h"
+#include "controles/BoitesTexte.h"
 #include "controles/Boutons.h"
 #include "controles/Legende.h"
 #include "doublures/FenetreEssai.h"
@@ -283,6 +284,30 @@ TEST_P(Fenetres, LaToucheTabVisiteChaquePageDeHautEnBas) {
     }
     EXPECT_EQ(noms.join(u' ').toStdString(), ligne.clavier[static_cast<std::size_t>(onglet) - 1]);
     AttendDeHautEnBas(tour);
+  }
+}
+
+TEST_P(FenetresAOnglets, CeQuUnChangementDOngletVideRevientParCtrlZ) {
+  constexpr int ajouter = 2;
+  Ouvre(ajouter);
+  std::vector<QWidget*> boites;
+  for (QWidget* boite : Page(ajouter).findChildren<QWidget*>()) {
+    const auto* uneLigne = dynamic_cast<LigneTexte*>(boite);
+    const auto* plusieurs = dynamic_cast<ZoneTexte*>(boite);
+    const bool editable = (uneLigne != nullptr && !uneLigne->isReadOnly()) ||
+                          (plusieurs != nullptr && !plusieurs->isReadOnly());
+    if (editable && boite->isEnabled()) {
+      boites.push_back(boite);
+      Tape(*boite, "Une saisie");
+    }
+  }
+  EXPECT_GE(boites.size(), 2U);
+  CliqueOnglet(*fenetre, 1);
+  CliqueOnglet(*fenetre, ajouter);
+  for (QWidget* boite : boites) {
+    EXPECT_EQ(Texte(*boite), "") << boite->objectName().toStdString();
+    QTest::keyClick(boite, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(Texte(*boite), "Une saisie") << boite->objectName().toStdString();
   }
 }
 

@@ -45,6 +45,33 @@ TEST_P(FichesModifier, SOuvreSurLaFicheAffichee) {
   EXPECT_EQ(cadre->contextes.back(), cas.contexteBase + 3);
 }
 
+TEST_P(FichesModifier, CeQueReinitialiserRemetRevientParCtrlZ) {
+  OuvreAgape();
+  Remplace(titre(), "Noces");
+  Remplace(sonTexte(), "Bref");
+  Clique(Le("cmdEffacerModifier"));
+  EXPECT_EQ(Texte(titre()), "Agape");
+  EXPECT_EQ(Texte(sonTexte()), "Dix octets");
+  QTest::keyClick(&titre(), Qt::Key_Z, Qt::ControlModifier);
+  QTest::keyClick(&sonTexte(), Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(Texte(titre()), "Noces");
+  EXPECT_EQ(Texte(sonTexte()), "Bref");
+}
+
+TEST_P(FichesModifier, CeQuiFutSaisiPourUneFicheNeVientPasDansUneAutre) {
+  Ajoute("Agape");
+  Ajoute("Banquet");
+  Ouvre(3);
+  Remplace(sonTexte(), "Bref");
+  CliqueOnglet(*fenetre, 1);
+  Choisit(combo(), "Banquet");
+  CliqueOnglet(*fenetre, 3);
+  QTest::keyClick(&titre(), Qt::Key_Z, Qt::ControlModifier);
+  QTest::keyClick(&sonTexte(), Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(Texte(titre()), "Banquet");
+  EXPECT_EQ(Texte(sonTexte()), "");
+}
+
 TEST_P(FichesModifier, UnTextePlusCourtResteASaPlaceEtLaFicheChangeDeRang) {
   OuvreAgape();
   Remplace(titre(), " Zakouski ");

@@ -66,6 +66,51 @@ TEST_F(Ajouter, LOptionFamilleRemetLaFamilleAfficheeEtVideTexteEtImage) {
   EXPECT_EQ(Texte(Le("txtImageAjouter")), "");
 }
 
+TEST_F(Ajouter, CeQuUnChangementDOngletVideRevientParCtrlZ) {
+  Ouvre(2);
+  Tape(Le("txtSaisieNomRecette"), "Soupe");
+  Tape(Le("txtSaisieRecetteAjouter"), "De l'eau\net du sel");
+  CliqueOnglet(*fenetre, 1);
+  CliqueOnglet(*fenetre, 2);
+  for (const char* nom : {"txtSaisieNomRecette", "txtSaisieRecetteAjouter"}) {
+    EXPECT_EQ(Texte(Le(nom)), "");
+    QTest::keyClick(&Le(nom), Qt::Key_Z, Qt::ControlModifier);
+  }
+  EXPECT_EQ(Texte(Le("txtSaisieNomRecette")), "Soupe");
+  EXPECT_EQ(Texte(Le("txtSaisieRecetteAjouter")), "De l'eau\net du sel");
+}
+
+TEST_F(Ajouter, CeQueLOptionFamilleVideRevientAvecLOptionRecette) {
+  Ouvre(2);
+  Tape(Le("txtSaisieNomRecette"), "Soupe");
+  Clique(Le("Option1(0)"));
+  Tape(Le("txtSaisieFamille"), "Poissons");
+  Clique(Le("Option1(1)"));
+  QTest::keyClick(&Le("txtSaisieNomRecette"), Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(Texte(Le("txtSaisieNomRecette")), "Soupe");
+  Clique(Le("Option1(0)"));
+  QTest::keyClick(&Le("txtSaisieFamille"), Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(Texte(Le("txtSaisieFamille")), "Poissons");
+}
+
+TEST_F(Ajouter, CeQueLeBoutonEffaceRevientParCtrlZ) {
+  Ouvre(2);
+  Tape(Le("txtSaisieRecetteAjouter"), "De l'eau");
+  Efface(Reponse::oui);
+  EXPECT_EQ(Texte(Le("txtSaisieRecetteAjouter")), "");
+  QTest::keyClick(&Le("txtSaisieRecetteAjouter"), Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(Texte(Le("txtSaisieRecetteAjouter")), "De l'eau");
+}
+
+TEST_F(Ajouter, UneValidationRefuseeLaisseAnnulerLaSaisie) {
+  Ouvre(2);
+  Tape(Le("txtSaisieNomRecette"), "   ");
+  Valide();
+  EXPECT_EQ(Texte(Le("txtSaisieNomRecette")), "");
+  QTest::keyClick(&Le("txtSaisieNomRecette"), Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(Texte(Le("txtSaisieNomRecette")), "   ");
+}
+
 TEST_F(Ajouter, LeRetourSurLOngletGardeLOptionFamilleEtLuiDonneLeFocus) {
   OuvreFamille();
   Tape(Le("txtSaisieFamille"), "Poissons");

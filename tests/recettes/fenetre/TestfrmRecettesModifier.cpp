@@ -1,5 +1,7 @@
 // The tab "Modifier" of the recipes window, through its controls.
 
+#include <QClipboard>
+
 #include "recettes/fenetre/FenetreEssai.h"
 
 namespace gastrelle::essai {
@@ -55,6 +57,48 @@ class Modifier : public FenetreRecettes {
     Clique(Le("cmdValideModifier"));
   }
 };
+
+TEST_F(Modifier, CeQuUnChangementDOngletRemetRevientParCtrlZ) {
+  OuvreSurUneImage();
+  Remplace(Le("txtSaisieNomRecetteModifier"), "Autre");
+  Remplace(Le("txtSaisieRecetteModifier"), "Un autre texte.");
+  CliqueOnglet(*fenetre, 1);
+  CliqueOnglet(*fenetre, 3);
+  AttendLesValeurs();
+  QTest::keyClick(&Le("txtSaisieNomRecetteModifier"), Qt::Key_Z, Qt::ControlModifier);
+  QTest::keyClick(&Le("txtSaisieRecetteModifier"), Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(Texte(Le("txtSaisieNomRecetteModifier")), "Autre");
+  EXPECT_EQ(Texte(Le("txtSaisieRecetteModifier")), "Un autre texte.");
+  Clique(Le("cmdEffacerModifier"));
+  AttendLesValeurs();
+  QTest::keyClick(&Le("txtSaisieRecetteModifier"), Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(Texte(Le("txtSaisieRecetteModifier")), "Un autre texte.");
+}
+
+TEST_F(Modifier, CeQuiFutSaisiPourUneRecetteNeVientPasDansUneAutre) {
+  b.AjouteRecette(2, "Avant", "Le texte.");
+  OuvreSurUneImage();
+  Remplace(Le("txtSaisieNomRecetteModifier"), "Autre");
+  Remplace(Le("txtSaisieRecetteModifier"), "Un autre texte.");
+  CliqueOnglet(*fenetre, 1);
+  const int affichee = recettes().currentIndex();
+  Choisit(recettes(), affichee == 0 ? 1 : 0);
+  CliqueOnglet(*fenetre, 3);
+  const QString titre = Texte(Le("txtSaisieNomRecetteModifier"));
+  QTest::keyClick(&Le("txtSaisieNomRecetteModifier"), Qt::Key_Z, Qt::ControlModifier);
+  QTest::keyClick(&Le("txtSaisieRecetteModifier"), Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(Texte(Le("txtSaisieNomRecetteModifier")), titre);
+  EXPECT_EQ(Texte(Le("txtSaisieRecetteModifier")), "Le texte.");
+}
+
+TEST_F(Modifier, LeCheminDeLImageNEstPasTranscrit) {
+  OuvreSurUneImage();
+  auto& chemin = Le<QLineEdit>("txtImageModifier");
+  chemin.selectAll();
+  QApplication::clipboard()->setText(Fr("/a\u00ADb.jpg"));
+  QTest::keyClick(&chemin, Qt::Key_V, Qt::ControlModifier);
+  EXPECT_EQ(Texte(chemin), Fr("/a\u00ADb.jpg"));
+}
 
 TEST_F(Modifier, SOuvreSurLaRecetteAffichee) {
   b.AjouteRecette(2, "Avec", "Le texte.", "/a.png");
