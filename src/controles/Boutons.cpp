@@ -10,8 +10,9 @@ QPushButton* Bouton(const QString& nom, const QString& titre, const QString& ico
   auto* bouton = new QPushButton(IconeDe(icone), titre, parent);
   bouton->setObjectName(nom);
   bouton->setToolTip(infobulle);
-  QString lisible = titre;
-  bouton->setAccessibleName(infobulle.isEmpty() ? lisible.remove(u'&') : infobulle);
+  if (titre.isEmpty()) {
+    bouton->setAccessibleName(infobulle);
+  }
   return bouton;
 }
 
