@@ -1,5 +1,6 @@
 #include "controles/Adresses.h"
 
+#include <AdressesConstruites.h>
 #include <array>
 
 #include <QSettings>
@@ -26,9 +27,9 @@ constexpr std::string_view sansMessagerie =
     "Aucune association n'est définie pour le courrier sur Internet"_1252;
 
 constexpr std::array<LigneLien, 3> liens{{
-    {"SiteWeb", ADRESSE_SITE, u"", u"", u"page de présentation", sansNavigateur},
-    {"PageRecettes", ADRESSE_RECETTES, u"", u"", u"page de présentation", sansNavigateur},
-    {"Courrier", ADRESSE_COURRIER, u"mailto:", u"contact",
+    {"SiteWeb", adresseSite, u"", u"", u"page de présentation", sansNavigateur},
+    {"PageRecettes", adresseRecettes, u"", u"", u"page de présentation", sansNavigateur},
+    {"Courrier", adresseCourrier, u"mailto:", u"contact",
      u"page de présentation, «\u00a0Contact\u00a0»", sansMessagerie},
 }};
 
