@@ -16,16 +16,17 @@ enum class Lien : std::uint8_t {
   courrier,  ///< its mail address
 };
 
-/// The address of a link as it is shown: the setting "SiteWeb", "PageRecettes" or "Courrier" of the
-/// section "Adresses", or its default.
+/// The address of a link: the setting "SiteWeb", "PageRecettes" or "Courrier" of the section
+/// "Adresses", or the build's own. Empty if there is none.
 QString Adresse(Lien lien);
+/// What is shown for a link: its address, or the words for the page of presentation.
+QString TexteDuLien(Lien lien);
 
 /// Asks the system to open an address as it opens that link; tells the user when no application is
 /// associated with it. All other failures are ignored.
 void OuvreLien(Module1& module, Lien lien, const QString& adresse);
-/// The same, of the link's own address.
-inline void OuvreLien(Module1& module, Lien lien) {
-  OuvreLien(module, lien, Adresse(lien));
-}
+/// The same, of the link's own address; without one, of what the page of presentation in the
+/// program's folder says on that subject.
+void OuvreLien(Module1& module, Lien lien);
 
 }  // namespace gastrelle

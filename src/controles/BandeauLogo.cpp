@@ -22,12 +22,12 @@ QLabel* Entete(const QString& texte, QWidget* parent) {
   return etiquette;
 }
 
-QLabel* Logo(const char* nom, const QString& infobulle, QWidget* parent) {
+QLabel* Logo(const char* nom, const QString& infobulle, const QString& entete, QWidget* parent) {
   auto* logo = new QLabel(parent);
   logo->setObjectName(QStringLiteral("Image1"));
   logo->setPixmap(IconeDe(QLatin1String(nom)).pixmap(tailleLogo, tailleLogo));
   logo->setToolTip(infobulle);
-  logo->setAccessibleName(infobulle);
+  logo->setAccessibleName(infobulle.isEmpty() ? entete : infobulle);
   return logo;
 }
 
@@ -56,7 +56,7 @@ BandeauLogo::BandeauLogo(const char* logo, const QString& entete, const QString&
     : QWidget(parent), titres_(new QVBoxLayout) {
   auto* bande = new QHBoxLayout(this);
   bande->setContentsMargins(0, 0, 0, 0);
-  bande->addWidget(Logo(logo, infobulle, this));
+  bande->addWidget(Logo(logo, infobulle, entete, this));
   bande->addSpacing(ecart);
   bande->addLayout(titres_, 1);
   titres_->addStretch(1);

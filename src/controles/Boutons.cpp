@@ -13,8 +13,9 @@ QPushButton* Bouton(const QString& nom, const QString& titre, const QString& ico
   bouton->setObjectName(nom);
   bouton->setToolTip(infobulle);
   bouton->setAutoDefault(true);
-  QString lisible = titre;
-  bouton->setAccessibleName(infobulle.isEmpty() ? lisible.remove(u'&') : infobulle);
+  if (titre.isEmpty()) {
+    bouton->setAccessibleName(infobulle);
+  }
   return bouton;
 }
 

@@ -8,7 +8,8 @@
 
 namespace gastrelle {
 
-/// A button with its name, caption, picture (none: empty) and tooltip, which screen readers say.
+/// A button with its name, caption, picture (none: empty) and tooltip. Screen readers say the
+/// caption, then the tooltip.
 /// Return presses the one that has the focus, on a page as in a dialog.
 QPushButton* Bouton(const QString& nom, const QString& titre, const QString& icone,
                     const QString& infobulle, QWidget* parent);

@@ -41,6 +41,7 @@ frmFromagesTrier::frmFromagesTrier(const PlaceOnglet& place, frmFromagesListe& l
 void frmFromagesTrier::Dispose() {
   List1_->setToolTip(QStringLiteral("Double-clic pour afficher la sélection"));
   List1_->setAccessibleName(QStringLiteral("Les fromages de ce lait"));
+  PictureSouris_->setAccessibleName(QStringLiteral("Une souris qui attend son fromage"));
   auto* choix = new QHBoxLayout;
   choix->addWidget(Legende(QStringLiteral("Au &lait de "), ComboLaitTrier_));
   choix->addWidget(ComboLaitTrier_);

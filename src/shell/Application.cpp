@@ -5,6 +5,7 @@
 #include <QTranslator>
 
 #include "controles/Conversion.h"
+#include "controles/Icones.h"
 #include "controles/StyleGastrelle.h"
 
 namespace gastrelle {
@@ -22,6 +23,7 @@ Application::Application(int& argc, char** argv, Messages& messages, Pointeur& p
   // No display name: the toolkit would put it behind every caption that doesn't end with it.
   setApplicationName(VersQt(titreApplication));
   setDesktopFileName(QStringLiteral("gastrelle"));
+  setWindowIcon(IconeDe(QStringLiteral("gastrelle"), plusGrandeIconeFenetre));
   // The end of the program has steps of its own once its last window is gone.
   setQuitOnLastWindowClosed(false);
   setStyle(new StyleGastrelle);

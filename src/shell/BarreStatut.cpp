@@ -26,6 +26,7 @@ BarreStatut::BarreStatut(Clavier& clavier, QWidget* parent)
       numerique_(Panneau(QStringLiteral("StatusBar1.Num"), QStringLiteral("Num"),
                          QStringLiteral("Verrouillage du pavé numérique"), this)) {
   setObjectName(QStringLiteral("StatusBar1"));
+  setAccessibleName(QStringLiteral("Barre de statuts"));
   addPermanentWidget(majuscules_);
   addPermanentWidget(numerique_);
   Montre({});
@@ -39,8 +40,13 @@ void BarreStatut::Rafraichit() {
 }
 
 void BarreStatut::Montre(Verrous verrous) {
-  majuscules_->setEnabled(verrous.majuscules);
-  numerique_->setEnabled(verrous.numerique);
+  const auto montre = [](QLabel& panneau, bool mis) {
+    panneau.setEnabled(mis);
+    panneau.setAccessibleDescription(
+        panneau.toolTip() + (mis ? QStringLiteral(" : activé") : QStringLiteral(" : désactivé")));
+  };
+  montre(*majuscules_, verrous.majuscules);
+  montre(*numerique_, verrous.numerique);
 }
 
 bool BarreStatut::eventFilter(QObject* objet, QEvent* evenement) {

@@ -71,7 +71,9 @@ void BarresCadre::BatitMenus(QMainWindow& cadre) {
     auto* entree = new QAction(titre, &cadre);
     entree->setObjectName(nom);
     entree->setCheckable(ligne.cochable);
-    entree->setShortcut(QKeySequence(QString::fromLatin1(ligne.touche)));
+    if (*ligne.touche != '\0') {
+      entree->setShortcuts(QKeySequence::listFromString(QString::fromUtf8(ligne.touche)));
+    }
     entree->setIcon(IconeDe(QString::fromLatin1(ligne.icone)));
     QMenu* parent = ligne.genre == Genre::sousEntree ? sousMenu : menu;
     Q_ASSERT(parent != nullptr);
@@ -104,8 +106,13 @@ void BarresCadre::BatitBarre(QMainWindow& cadre) {
     controle->setObjectName(QStringLiteral("tbToolBar.") + cle);
     controle->setAccessibleName(infobulle);
     boutons_.emplace(cle, bouton);
-    QObject::connect(bouton, &QAction::triggered, &cadre,
-                     [this, &entree = Entree(ligne.entree)] { Execute(entree); });
+    QAction& entree = Entree(ligne.entree);
+    bouton->setCheckable(entree.isCheckable());
+    QObject::connect(&entree, &QAction::toggled, bouton, &QAction::setChecked);
+    QObject::connect(bouton, &QAction::triggered, &cadre, [this, bouton, &entree] {
+      bouton->setChecked(entree.isChecked());  // the mark is the entry's, not the click's
+      Execute(entree);
+    });
   }
 }
 

@@ -5,10 +5,12 @@
 
 #include <QMdiSubWindow>
 
+#include "controles/Icones.h"
 #include "fiches/frmMenus.h"
 #include "fiches/frmTrucs.h"
 #include "fromages/frmFromages.h"
 #include "recettes/frmRecettes.h"
+#include "shell/MenusCadre.h"
 
 namespace gastrelle {
 namespace {
@@ -49,8 +51,8 @@ const char* NomEntree(EntreeVue vue) {
   return Ligne(vue).entree;
 }
 
-FenetresCadre::FenetresCadre(Module1& module, Cadre& cadre, QMdiArea& place, QIcon icone)
-    : module_(module), cadre_(cadre), place_(place), icone_(std::move(icone)), suivi_(place) {}
+FenetresCadre::FenetresCadre(Module1& module, Cadre& cadre, QMdiArea& place)
+    : module_(module), cadre_(cadre), place_(place), suivi_(place) {}
 
 void FenetresCadre::Montre(EntreeVue vue) {
   if (EstContexteDe(module_.contexteActif, vue) || Ligne(vue).cree == nullptr) {
@@ -91,7 +93,8 @@ QMdiSubWindow& FenetresCadre::Cree(EntreeVue vue) {
   auto* fenetre = new QMdiSubWindow;
   fenetre->setAttribute(Qt::WA_DeleteOnClose);
   fenetre->setWidget(Ligne(vue).cree(module_, cadre_));
-  fenetre->setWindowIcon(icone_);
+  fenetre->setWindowIcon(
+      IconeDe(QLatin1String(ImageDuBouton(NomEntree(vue))), plusGrandeIconeFenetre));
   place_.addSubWindow(fenetre);
   ouvertes_[vue] = fenetre;
   suivi_.Suit(*fenetre);
@@ -136,6 +139,7 @@ void FenetresCadre::Enumere(QMenu& menu) {
     QAction* action =
         menu.addAction(QStringLiteral("&%1 %2").arg(++numero).arg(fenetre->windowTitle()));
     action->setProperty(marqueListe, true);
+    action->setIcon(fenetre->windowIcon());
     action->setCheckable(true);
     action->setChecked(fenetre == place_.activeSubWindow());
     QObject::connect(action, &QAction::triggered, fenetre, [this, fenetre] { VaA(*fenetre); });

@@ -4,7 +4,6 @@
 
 #include <map>
 
-#include <QIcon>
 #include <QMdiArea>
 #include <QMenu>
 #include <QPointer>
@@ -21,8 +20,8 @@ namespace gastrelle {
 
 class FenetresCadre {
  public:
-  /// The windows live in `place` and bear `icone`.
-  FenetresCadre(Module1& module, Cadre& cadre, QMdiArea& place, QIcon icone);
+  /// The windows live in `place`; each bears the picture of its button.
+  FenetresCadre(Module1& module, Cadre& cadre, QMdiArea& place);
 
   /// Shows a window and brings it to the front, unless it is the active one already; makes it first
   /// if it isn't there.
@@ -45,7 +44,6 @@ class FenetresCadre {
   Module1& module_;
   Cadre& cadre_;
   QMdiArea& place_;
-  const QIcon icone_;
   SuiviFenetres suivi_;
   std::map<EntreeVue, QPointer<QWidget>> ouvertes_;
 };

@@ -1,8 +1,14 @@
 #include "shell/GeometrieCadre.h"
 
+#include <algorithm>
+#include <utility>
+
 #include <QGuiApplication>
+#include <QRegion>
 #include <QScreen>
 #include <QSettings>
+#include <QStyle>
+#include <QWindow>
 
 #include "controles/Conversion.h"
 #include "data/Messages.h"
@@ -19,8 +25,6 @@ int Pixels(const QSettings& reglages, const char* cle, int twipsParDefaut) {
   constexpr double raisonnable = 1'000'000;
   return qRound((bon && qAbs(twips) < raisonnable ? twips : twipsParDefaut) / twipsParPixel);
 }
-
-}  // namespace
 
 QRect LitGeometrie() {
   constexpr int largeurTwips = 12000;
@@ -43,15 +47,72 @@ void EcritGeometrie(const QRect& geometrie) {
   ecrit("MainHeight", geometrie.height());
 }
 
-void Place(QWidget& fenetre, const QRect& geometrie) {
-  QRect place = geometrie;
-  const bool visible = QGuiApplication::screenAt(place.center()) != nullptr ||
-                       QGuiApplication::screenAt(place.topLeft()) != nullptr;
-  if (!visible) {
-    place.moveTopLeft(QGuiApplication::primaryScreen()->availableGeometry().topLeft());
+QList<QRect> Ecrans() {
+  QList<QRect> ecrans{QGuiApplication::primaryScreen()->availableGeometry()};
+  for (const QScreen* ecran : QGuiApplication::screens()) {
+    ecrans << ecran->availableGeometry();
   }
-  fenetre.resize(place.size());
-  fenetre.move(place.topLeft());
+  return ecrans;
+}
+
+/// What a window of that style is likely to get around it: nobody knows before it is shown.
+QMargins BordureProbable(const QWidget& fenetre) {
+  const int cote =
+      fenetre.style()->pixelMetric(QStyle::PM_MdiSubWindowFrameWidth, nullptr, &fenetre);
+  const int titre = fenetre.style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, &fenetre);
+  return {cote, cote + titre, cote, cote};
+}
+
+}  // namespace
+
+QRect PlaceVisible(const QRect& souhait, const QMargins& bordure, const QList<QRect>& ecrans) {
+  const QRect entiere(souhait.topLeft(), souhait.size().grownBy(bordure));
+  QRegion dehors(entiere);
+  for (const QRect& ecran : ecrans) {
+    dehors -= ecran;
+  }
+  if (dehors.isEmpty()) {
+    return souhait;
+  }
+  const auto lieu = std::find_if(ecrans.begin(), ecrans.end(), [&](const QRect& ecran) {
+    return ecran.contains(entiere.center()) || ecran.contains(entiere.topLeft());
+  });
+  const QRect ecran = lieu == ecrans.end() ? ecrans.first() : *lieu;
+  const QSize libre = ecran.size().shrunkBy(bordure);
+  QRect place(lieu == ecrans.end() ? ecran.topLeft() : souhait.topLeft(),
+              souhait.size().boundedTo(libre));
+  const QSize jeu = libre - place.size();
+  const bool coupee = place.width() < souhait.width();
+  place.moveLeft(coupee ? ecran.left() : std::min(place.left(), ecran.left() + jeu.width()));
+  place.moveTop(std::clamp(place.top(), ecran.top(), ecran.top() + jeu.height()));
+  return place;
+}
+
+GeometrieCadre::GeometrieCadre(QWidget& cadre) : cadre_(cadre), souhait_(LitGeometrie()) {
+  Place(PlaceVisible(souhait_, BordureProbable(cadre_), Ecrans()));
+}
+
+void GeometrieCadre::Place(const QRect& place) {
+  montree_ = place;
+  cadre_.resize(place.size());
+  cadre_.move(place.topLeft());
+}
+
+void GeometrieCadre::Ajuste() {
+  const QWindow* fenetre = cadre_.windowHandle();
+  const bool reprise = cadre_.size() != montree_.size();  // by the user or the window system
+  if (fenetre == nullptr || std::exchange(ajustee_, true) || reprise) {
+    return;
+  }
+  const QRect place = PlaceVisible(souhait_, fenetre->frameMargins(), Ecrans());
+  if (place != montree_) {
+    Place(place);
+  }
+}
+
+void GeometrieCadre::Retient() const {
+  EcritGeometrie({cadre_.pos() == montree_.topLeft() ? souhait_.topLeft() : cadre_.pos(),
+                  cadre_.size() == montree_.size() ? souhait_.size() : cadre_.size()});
 }
 
 }  // namespace gastrelle

@@ -1,5 +1,6 @@
 #include "shell/MenusCadre.h"
 
+#include <algorithm>
 #include <array>
 
 namespace gastrelle {
@@ -7,11 +8,13 @@ namespace {
 
 using enum Genre;
 
+// A French keyboard has its digits on the shifted row: there the bare key stands for its digit. Not
+// that of 6, which is the minus sign: with Ctrl that makes a text smaller.
 constexpr std::array<EntreeMenu, 53> entrees{{
     {menu, "mnuFile", u"&Fichier"},
     {entree, "mnuFilePrint", u"&Imprimer", "Ctrl+P", "imprimer"},
     {separateur, "mnuFileBar0"},
-    {entree, "mnuFilePreferences", u"&Préférences"},
+    {entree, "mnuFilePreferences", u"&Préférences", "Ctrl+,"},
     {separateur, "mnuFileBar1"},
     {sousMenu, "mnuFileMaintenance", u"&Maintenance"},
     {sousEntree, "mnuFileProperties", u"&Nettoyage"},
@@ -35,15 +38,15 @@ constexpr std::array<EntreeMenu, 53> entrees{{
     {sousEntree, "mnuEditEnvoyerNotePad", u"&Bloc-notes", "", "blocnotes"},
 
     {menu, "mnuView", u"Affic&hage"},
-    {entree, "mnuViewRecettes", u"&Recettes", "", "", true},
-    {entree, "mnuViewFromages", u"&Fromages", "", "", true},
-    {entree, "mnuViewMenus", u"&Menus", "", "", true},
-    {entree, "mnuViewVins", u"&Vins", "", "", true},
-    {entree, "mnuViewMillesimes", u"Mi&llésimes des vins", "", "", true},
-    {entree, "mnuViewTermesTrucsAstuces", u"&Termes, trucs et astuces", "", "", true},
-    {entree, "mnuViewFavoris", u"Mes fav&oris", "", "", true},
-    {entree, "mnuViewMesNotes", u"Mes &notes", "", "", true},
-    {entree, "mnuViewMesCourses", u"Mes &courses", "", "", true},
+    {entree, "mnuViewRecettes", u"&Recettes", "Ctrl+1; Ctrl+&", "", true},
+    {entree, "mnuViewFromages", u"&Fromages", "Ctrl+2; Ctrl+é", "", true},
+    {entree, "mnuViewMenus", u"&Menus", "Ctrl+3; Ctrl+\"", "", true},
+    {entree, "mnuViewVins", u"&Vins", "Ctrl+4; Ctrl+'", "", true},
+    {entree, "mnuViewMillesimes", u"Mi&llésimes des vins", "Ctrl+5; Ctrl+(", "", true},
+    {entree, "mnuViewTermesTrucsAstuces", u"&Termes, trucs et astuces", "Ctrl+6", "", true},
+    {entree, "mnuViewFavoris", u"Mes fav&oris", "Ctrl+7; Ctrl+è", "", true},
+    {entree, "mnuViewMesNotes", u"Mes &notes", "Ctrl+8; Ctrl+_", "", true},
+    {entree, "mnuViewMesCourses", u"Mes &courses", "Ctrl+9; Ctrl+ç", "", true},
     {separateur, "mnuViewBar1"},
     {entree, "mnuViewBarreOutils", u"Barre d'outils", "", "", true},
     {entree, "mnuViewBarreStatut", u"Barre de statuts", "", "", true},
@@ -96,6 +99,13 @@ std::span<const EntreeMenu> EntreesMenus() {
 
 std::span<const BoutonBarre> BarreOutils() {
   return boutons;
+}
+
+const char* ImageDuBouton(std::string_view entree) {
+  const auto* const bouton =
+      std::find_if(boutons.begin(), boutons.end(),
+                   [entree](const BoutonBarre& ligne) { return ligne.entree == entree; });
+  return bouton == boutons.end() ? "" : bouton->icone;
 }
 
 }  // namespace gastrelle

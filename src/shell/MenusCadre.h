@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <span>
+#include <string_view>
 
 namespace gastrelle {
 
@@ -18,7 +19,7 @@ struct EntreeMenu {
   Genre genre;
   const char* nom;              ///< objectName
   const char16_t* titre = u"";  ///< "&" marks the access key
-  const char* touche = "";      ///< shortcut, in portable text
+  const char* touche = "";      ///< shortcut, in portable text; others behind it after "; "
   const char* icone = "";       ///< resource name
   bool cochable = false;
 };
@@ -33,5 +34,7 @@ struct BoutonBarre {
 
 std::span<const EntreeMenu> EntreesMenus();
 std::span<const BoutonBarre> BarreOutils();
+/// Resource name of the picture on the button that stands for an entry; empty if none does.
+const char* ImageDuBouton(std::string_view entree);
 
 }  // namespace gastrelle

@@ -10,11 +10,11 @@
 #include <QStyleOption>
 #include <QVBoxLayout>
 
+#include "controles/BoitesTexte.h"
 #include "controles/Boutons.h"
 #include "controles/Conversion.h"
 #include "controles/Icones.h"
 #include "controles/Touches.h"
-#include "controles/BoitesTexte.h"
 
 namespace gastrelle {
 namespace {
@@ -141,6 +141,7 @@ QLabel* frmAbout::Etiquette(const char* nom, const QString& texte) {
 
 QLayout* frmAbout::Entete() {
   QLabel* icone = Etiquette("picIcon", {});
+  icone->setAccessibleName(QStringLiteral("Emblème de Gastrelle"));
   icone->setPixmap(IconeDe(QStringLiteral("gastrelle")).pixmap(coteIcone, coteIcone));
   QLabel* titre = Etiquette("lblTitle", VersQt(titreApplication));
   QFont police = titre->font();
@@ -181,7 +182,7 @@ QLayout* frmAbout::RangeeLiens() {
 void frmAbout::AjouteLien(QGridLayout& grille, const char* nomLegende, const QString& legende,
                           const char* nom, Lien lien) {
   auto* texte = new LienTexte(
-      Adresse(lien), [this, lien] { OuvreLien(module_, lien); }, this);
+      TexteDuLien(lien), [this, lien] { OuvreLien(module_, lien); }, this);
   texte->setObjectName(QLatin1String(nom));
   const int rang = grille.rowCount();
   grille.addWidget(Etiquette(nomLegende, legende), rang, 0);

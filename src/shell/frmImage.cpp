@@ -5,6 +5,7 @@
 #include <QMouseEvent>
 #include <QScreen>
 #include <QTimer>
+#include <QtMath>
 
 #include "controles/Conversion.h"
 #include "controles/Icones.h"
@@ -68,17 +69,23 @@ void frmImage::BatitBarre() {
     controle->setFocusPolicy(Qt::TabFocus);
     connect(entree, &QAction::triggered, this, action);
   };
-  bouton("Copier", "camera", QStringLiteral("Ouvrir dans le visualisateur associé"),
+  bouton("Copier", "ailleurs", QStringLiteral("Ouvrir dans le visualisateur associé"),
          [this] { OuvreImageAssociee(module_, chemin_); });
   bouton("Aide", "aide", QStringLiteral("Aide"), [] { EnvoieF1(); });
   bouton("Fermer", "quitter", QStringLiteral("Fermer la fenêtre"), [this] { close(); });
   tbToolbar_->setFixedHeight(tbToolbar_->sizeHint().height());
 }
 
+QSize frmImage::Verre() const {
+  return (QSizeF(screen()->size()) * screen()->devicePixelRatio()).toSize();
+}
+
+int frmImage::HauteurBarre() const {
+  return qRound(tbToolbar_->height() * screen()->devicePixelRatio());
+}
+
 bool frmImage::TropGrande(const QSize& image) const {
-  const QSize ecran = screen()->size();
-  return image.height() + 2 * tbToolbar_->height() > ecran.height() ||
-         image.width() > ecran.width();
+  return image.height() + 2 * HauteurBarre() > Verre().height() || image.width() > Verre().width();
 }
 
 void frmImage::Charge() {
@@ -89,7 +96,7 @@ void frmImage::Charge() {
   lecteur.setAutoTransform(true);
   const bool couchee = lecteur.transformation().testFlag(QImageIOHandler::TransformationRotate90);
   const auto redresse = [couchee](const QSize& t) { return couchee ? t.transposed() : t; };
-  const QSize etiree = screen()->size() - QSize(0, 3 * tbToolbar_->height());
+  const QSize etiree = Verre() - QSize(0, 3 * HauteurBarre());
   QSize naturelle = redresse(lecteur.size());
   if (naturelle.isValid() && TropGrande(naturelle)) {
     lecteur.setScaledSize(redresse(etiree));  // a huge photograph never takes its whole memory
@@ -111,15 +118,18 @@ void frmImage::Charge() {
 
 void frmImage::Montre(QLabel* vue, const QImage& image, const QSize& taille,
                       const QSize& naturelle) {
-  vue->setPixmap(QPixmap::fromImage(image));
-  vue->resize(taille);
+  const qreal densite = screen()->devicePixelRatio();
+  QPixmap points = QPixmap::fromImage(image);
+  points.setDevicePixelRatio(densite);
+  vue->setPixmap(points);
+  vue->resize(qCeil(taille.width() / densite), qCeil(taille.height() / densite));
   vue->show();
   const QString legende = QStringLiteral("%1 (%2 × %3)")
                               .arg(QFileInfo(VersQt(chemin_)).fileName())
                               .arg(naturelle.width())
                               .arg(naturelle.height());
-  lblLegende_->setText(fontMetrics().elidedText(legende, Qt::ElideMiddle, taille.width()));
-  resize(taille.width(), taille.height() + 2 * tbToolbar_->height());
+  lblLegende_->setText(fontMetrics().elidedText(legende, Qt::ElideMiddle, vue->width()));
+  resize(vue->width(), vue->height() + 2 * tbToolbar_->height());
   move(screen()->geometry().topLeft());
 }
 

@@ -30,6 +30,10 @@ class frmImage final : public QDialog {
   void Montre(QLabel* vue, const QImage& image, const QSize& taille, const QSize& naturelle);
   void SurActivation();
   [[nodiscard]] bool SurLaListe() const;
+  /// The screen's size and the toolbar's height, in the pixels that its glass has.
+  [[nodiscard]] QSize Verre() const;
+  [[nodiscard]] int HauteurBarre() const;
+  /// Sizes of pictures are in those pixels too.
   [[nodiscard]] bool TropGrande(const QSize& image) const;
 
   Module1& module_;

@@ -4,7 +4,6 @@
 
 #include "controles/Adresses.h"
 #include "controles/Conversion.h"
-#include "controles/Icones.h"
 #include "controles/Touches.h"
 #include "data/Courses.h"
 #include "data/ProceduresFichiers.h"
@@ -12,7 +11,6 @@
 #include "maintenance/frmSauvegarde.h"
 #include "shell/CommandesEdition.h"
 #include "shell/Disposition.h"
-#include "shell/GeometrieCadre.h"
 #include "shell/ImageAssociee.h"
 #include "shell/frmAbout.h"
 #include "shell/frmImage.h"
@@ -24,19 +22,17 @@ frmMain::frmMain(Module1& module, Clavier& clavier)
       enfants_(new QMdiArea(this)),
       barres_(*this),
       statut_(new BarreStatut(clavier, this)),
-      fenetres_(module, *this, *enfants_,
-                IconeDe(QStringLiteral("gastrelle"), plusGrandeIconeFenetre)),
+      fenetres_(module, *this, *enfants_),
+      geometrie_(*this),
       aide_(module) {
   setObjectName(QStringLiteral("frmMain"));
   setWindowTitle(VersQt(titreApplication));
-  setWindowIcon(IconeDe(QStringLiteral("gastrelle"), plusGrandeIconeFenetre));
   setCentralWidget(enfants_);
   setProperty(proprieteSujet, QStringLiteral("cadre"));
   // The bars come and go through their entries, whose check marks tell what is shown.
   setContextMenuPolicy(Qt::NoContextMenu);
   setStatusBar(statut_);
   enfants_->setObjectName(QStringLiteral("MDIClient"));
-  Place(*this, LitGeometrie());
   BrancheCommandes();
   BrancheFenetres();
   fenetres_.Montre(EntreeVue::recettes);
@@ -159,6 +155,7 @@ bool frmMain::event(QEvent* evenement) {
   if (evenement->type() == QEvent::WindowActivate) {
     module_.services.pointeur.Normal();
     statut_->Rafraichit();
+    geometrie_.Ajuste();
   }
   // A maximised child window would add its own title to the frame's.
   const QString titre = VersQt(titreApplication);
@@ -176,7 +173,7 @@ void frmMain::closeEvent(QCloseEvent* evenement) {
   fenetres_.DechargeTout();
   aide_.Quitte();
   if (!isMinimized()) {
-    EcritGeometrie({pos(), size()});
+    geometrie_.Retient();
   }
   hide();
   SauveCourses(module_);

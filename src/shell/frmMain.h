@@ -14,6 +14,7 @@
 #include "shell/BarreStatut.h"
 #include "shell/BarresCadre.h"
 #include "shell/FenetresCadre.h"
+#include "shell/GeometrieCadre.h"
 
 namespace gastrelle {
 
@@ -50,6 +51,7 @@ class frmMain final : public QMainWindow, public Cadre {
   BarresCadre barres_;
   BarreStatut* statut_;
   FenetresCadre fenetres_;
+  GeometrieCadre geometrie_;
   Aide aide_;
   bool fermee_ = false;
 };

@@ -40,6 +40,12 @@ TEST(AssociationReelle, OuvreUneImageAvecSonProgramme) {
   EXPECT_EQ(CheminRecu(), image);
 }
 
+TEST(AssociationReelle, OuvreUnDocumentASaSection) {
+  const std::string image = Document("plan.png", "\x89PNG\r\n\x1a\n");
+  EXPECT_EQ(AssociationSysteme().Ouvre("file://" + image + "#contact"), Ouverture::ouverte);
+  EXPECT_EQ(CheminRecu(), image);
+}
+
 TEST(AssociationReelle, DitQuAucunProgrammeNOuvreUnTexte) {
   EXPECT_EQ(AssociationSysteme().Ouvre(Document("notes.txt", "texte")),
             Ouverture::aucuneAssociation);
@@ -55,8 +61,7 @@ TEST(AssociationReelle, UnDocumentQuiManqueEstUnAutreEchec) {
 }
 
 TEST(AssociationReelle, SansNavigateurUneAdresseNAAucuneAssociation) {
-  EXPECT_EQ(AssociationSysteme().Ouvre("https://www.gastrelle.example/"),
-            Ouverture::aucuneAssociation);
+  EXPECT_EQ(AssociationSysteme().Ouvre("https://fr.wikibooks.org/"), Ouverture::aucuneAssociation);
 }
 
 }  // namespace

@@ -8,6 +8,7 @@
 #include "controles/Focus.h"
 #include "doublures/EcouteF1.h"
 #include "doublures/Ecran.h"
+#include "doublures/LecteurEcran.h"
 
 namespace gastrelle::essai {
 namespace {
@@ -34,14 +35,20 @@ TEST_F(Pied, ChaqueVerbeASonTitreSonInfobulleEtSonImage) {
       "cmdSupprime|&Supprimer|Supprimer le menu", "cmdActiver|Affi&cher|Afficher le fromage"};
   page.show();
   for (std::size_t i = 0; i < boutons.size(); ++i) {
-    const QPushButton& bouton = *boutons[i];
+    QPushButton& bouton = *boutons[i];
     EXPECT_EQ(bouton.objectName() + u'|' + bouton.text() + u'|' + bouton.toolTip(),
               attendus[static_cast<qsizetype>(i)]);
-    EXPECT_EQ(bouton.accessibleName(), bouton.toolTip());
+    EXPECT_EQ(Dit(bouton, QAccessible::Name), bouton.text().remove(u'&'));
+    EXPECT_EQ(Dit(bouton, QAccessible::Description), bouton.toolTip());
     EXPECT_FALSE(bouton.icon().isNull());
     Clique(*boutons[i]);
     EXPECT_EQ(clics, static_cast<int>(i) + 1);
   }
+}
+
+TEST_F(Pied, UnBoutonSansTitreSeNommeParSonInfobulle) {
+  QPushButton* web = Bouton("PictureWeb", {}, "web", "Chercher ailleurs", &page);
+  EXPECT_EQ(Dit(*web, QAccessible::Name), "Chercher ailleurs");
 }
 
 TEST_F(Pied, LAideEnvoieLaToucheF1) {

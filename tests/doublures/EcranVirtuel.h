@@ -4,6 +4,7 @@
 #include <QProcess>
 #include <QProcessEnvironment>
 #include <QStandardPaths>
+#include <QTemporaryFile>
 #include <QTest>
 
 namespace gastrelle::essai {
@@ -47,18 +48,41 @@ class EcranVirtuel {
   QProcess serveur_;
 };
 
-/// Runs one test of this program once more, as a guest of a virtual display. Its exit status.
-inline int RejoueSurEcranVirtuel(const QString& nom) {
-  EcranVirtuel ecran;
+/// Runs one test of this program once more, in a process of its own. Its exit status.
+inline int Rejoue(const QString& nom, const QProcessEnvironment& environnement) {
   QProcess essai;
-  ecran.environnement.insert("PLATEFORME_DES_ESSAIS", "xcb");
-  essai.setProcessEnvironment(ecran.environnement);
+  essai.setProcessEnvironment(environnement);
   essai.start(QCoreApplication::applicationFilePath(), {"--gtest_filter=" + nom});
   essai.waitForFinished(patience);
   return essai.exitStatus() == QProcess::NormalExit &&
                  essai.readAllStandardOutput().contains("[  PASSED  ] 1 test")
              ? essai.exitCode()
              : -1;
+}
+
+/// The same as a guest of a virtual display.
+inline int RejoueSurEcranVirtuel(const QString& nom) {
+  EcranVirtuel ecran;
+  ecran.environnement.insert("PLATEFORME_DES_ESSAIS", "xcb");
+  return Rejoue(nom, ecran.environnement);
+}
+
+/// The same on a screen of that size in pixels, `densite` of which make one of the program's.
+inline int RejoueSurUnEcranDe(const QSize& taille, int densite, const QString& nom) {
+  QTemporaryFile reglage;
+  if (!reglage.open()) {
+    return -1;
+  }
+  reglage.write(QStringLiteral(R"({"screens": [{"name": "essai", "x": 0, "y": 0, "width": %1,
+      "height": %2, "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})")
+                    .arg(taille.width())
+                    .arg(taille.height())
+                    .toUtf8());
+  reglage.close();
+  QProcessEnvironment environnement = QProcessEnvironment::systemEnvironment();
+  environnement.insert("PLATEFORME_DES_ESSAIS", "offscreen:configfile=" + reglage.fileName());
+  environnement.insert("QT_SCALE_FACTOR", QString::number(densite));
+  return Rejoue(nom, environnement);
 }
 
 }  // namespace gastrelle::essai

@@ -1,9 +1,11 @@
 // What no operation guards: the program says it and ends.
 
 #include <QEvent>
+#include <QMessageBox>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "controles/Icones.h"
 #include "data/Texte1252.h"
 #include "doublures/ApplicationEssai.h"
 #include "doublures/Ecran.h"
@@ -63,6 +65,17 @@ TEST_F(PanneSansGarde, UnEvenementSansPanneNeDitRien) {
   QApplication::sendEvent(&fragile, &evenement);
   EXPECT_THAT(messages.vus, IsEmpty());
   EXPECT_EQ(FinVue(), std::nullopt);
+}
+
+/// What shows without the frame: a message at the start, the copy at the end.
+TEST(FenetreSansParent, PorteLEmblemeEnPetitesTailles) {
+  const QMessageBox boite;
+  const QIcon icone = boite.windowIcon();
+  EXPECT_EQ(icone.pixmap(32).toImage(), IconeDe("gastrelle").pixmap(32).toImage());
+  for (const QSize& taille : icone.availableSizes()) {
+    EXPECT_LE(taille.width(), plusGrandeIconeFenetre);
+  }
+  EXPECT_EQ(QGuiApplication::desktopFileName(), "gastrelle");
 }
 
 TEST(FinSurErreur, RendLePointeurAvantDeParlerPuisFinit) {

@@ -107,6 +107,34 @@ TEST_F(MenusDuCadre, UneCleMalEcriteEchoueAussitot) {
   EXPECT_THROW(static_cast<void>(barres.Menu("mnuFilePrint")), std::invalid_argument);
 }
 
+TEST_F(MenusDuCadre, LesTouchesSontAuMenu) {
+  Ouvre();
+  QStringList touches;
+  for (const QAction* action : Le<QMenu>("mnuView").actions()) {
+    if (!action->shortcut().isEmpty()) {
+      touches << action->objectName().mid(7) + u' ' + action->shortcut().toString();
+    }
+  }
+  EXPECT_EQ(touches, (QStringList{"Recettes Ctrl+1", "Fromages Ctrl+2", "Menus Ctrl+3",
+                                  "Vins Ctrl+4", "Millesimes Ctrl+5", "TermesTrucsAstuces Ctrl+6",
+                                  "Favoris Ctrl+7", "MesNotes Ctrl+8", "MesCourses Ctrl+9"}));
+  EXPECT_EQ(Entree("mnuFilePreferences").shortcut().toString(), "Ctrl+,");
+}
+
+TEST_F(MenusDuCadre, AucuneToucheNeServeDeuxFois) {
+  Ouvre();
+  QStringList prises;
+  for (const QAction* action : cadre->findChildren<QAction*>()) {
+    for (const QKeySequence& touche : action->shortcuts()) {
+      EXPECT_FALSE(prises.contains(touche.toString())) << touche.toString().toStdString();
+      prises << touche.toString();
+    }
+  }
+  for (const char* reservee : {"Ctrl++", "Ctrl+-", "Ctrl+0"}) {  // the size of the text
+    EXPECT_FALSE(prises.contains(reservee)) << reservee;
+  }
+}
+
 TEST_F(MenusDuCadre, ChaqueBoutonVautSonEntree) {
   QStringList vus;
   for (const gastrelle::BoutonBarre& bouton : BarreOutils()) {
@@ -120,6 +148,15 @@ TEST_F(MenusDuCadre, ChaqueBoutonVautSonEntree) {
                "Print=mnuFilePrint", "Couper=mnuEditCut", "Copier=mnuEditCopy",
                "Coller=mnuEditPaste", "Find=mnuEditRechercher", "Ttx=mnuEditEnvoyerTtx",
                "Notepad=mnuEditEnvoyerNotePad", "Help=mnuHelpContents", "Exit=mnuFileExit"}));
+}
+
+TEST_F(MenusDuCadre, LesNeufFenetresEtEllesSeulesOntUnBoutonQuiSeCoche) {
+  Ouvre();
+  for (const gastrelle::BoutonBarre& ligne : BarreOutils()) {
+    const auto& bouton = static_cast<QToolButton&>(BoutonBarre(ligne.cle));
+    EXPECT_EQ(bouton.isCheckable(), std::string_view(ligne.entree).starts_with("mnuView"))
+        << ligne.cle;
+  }
 }
 
 TEST_F(MenusDuCadre, LaBarreADixHuitBoutonsAvecInfobulleEtImage) {

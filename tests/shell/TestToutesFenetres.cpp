@@ -13,6 +13,7 @@
 #include "controles/Boutons.h"
 #include "controles/Legende.h"
 #include "doublures/FenetreEssai.h"
+#include "doublures/LecteurEcran.h"
 #include "doublures/ToutesFenetres.h"
 #include "shell/MenusCadre.h"
 
@@ -511,6 +512,29 @@ TEST_P(Fenetres, ChaquePageAUnBoutonDAideQuiEnvoieLaToucheF1) {
     Clique(BoutonAide(onglet));
     EXPECT_EQ(ecoute.appuis, onglet);
     EXPECT_EQ(BoutonAide(onglet).toolTip(), "Aide");
+  }
+}
+
+TEST_P(Fenetres, UnBoutonSeNommeCommeOnLeLit) {
+  OuvreEtParcourt();
+  for (auto* bouton : fenetre->findChildren<QPushButton*>()) {
+    QString titre = bouton->text();
+    titre.remove(u'&');
+    EXPECT_EQ(Dit(*bouton, QAccessible::Name), titre.isEmpty() ? bouton->toolTip() : titre);
+    EXPECT_EQ(Dit(*bouton, QAccessible::Description), bouton->toolTip());
+  }
+}
+
+TEST_P(Fenetres, ToutDessinAUnNom) {
+  Ouvre();
+  for (int onglet = 1; onglet <= ligne.onglets(); ++onglet) {
+    VaA(onglet);
+    for (const auto* etiquette : Page(onglet).findChildren<QLabel*>()) {
+      if (etiquette->isVisible() && !etiquette->pixmap().isNull()) {
+        EXPECT_FALSE(etiquette->accessibleName().isEmpty())
+            << onglet << ' ' << etiquette->objectName().toStdString();
+      }
+    }
   }
 }
 

@@ -29,7 +29,14 @@ class APropos : public testing::Test {
     Ouvre();
   }
 
-  void TearDown() override { qputenv("PATH", chemins); }
+  void TearDown() override {
+    qputenv("PATH", chemins);
+    QSettings(QSettings::UserScope, "Gastrelle 2005").remove("Adresses");
+  }
+
+  static void Regle(const QString& lien, const QString& adresse) {
+    QSettings(QSettings::UserScope, "Gastrelle 2005").setValue("Adresses/" + lien, adresse);
+  }
 
   void Ouvre() {
     dialogue = std::make_unique<frmAbout>(*b.module, nullptr);
@@ -101,18 +108,38 @@ TEST_F(APropos, LesLegendesEtLesBoutonsOntLeursTextes) {
 }
 
 TEST_F(APropos, MontreLesAdresses) {
-  EXPECT_EQ(Lit("lblAdresselWeb"), Adresse(Lien::site));
-  EXPECT_EQ(Lit("lblAdresseEmail"), Adresse(Lien::courrier));
+  Regle("SiteWeb", "https://localhost/cuisine");
+  Regle("Courrier", "cuisine@localhost");
+  Ouvre();
+  EXPECT_EQ(Lit("lblAdresselWeb"), "https://localhost/cuisine");
+  EXPECT_EQ(Lit("lblAdresseEmail"), "cuisine@localhost");
+}
+
+TEST_F(APropos, SansAdresseLesLiensMenentALaPageDePresentation) {
+  EXPECT_EQ(Lit("lblAdresselWeb"), Fr("page de présentation"));
+  EXPECT_EQ(Lit("lblAdresseEmail"), Fr("page de présentation, «\u00a0Contact\u00a0»"));
+  Clique(Trouve(*dialogue, "lblAdresselWeb"));
+  Clique(Trouve(*dialogue, "lblAdresseEmail"));
+  const std::string page = "file://" + (b.dossier.chemin() / "presentation.html").string();
+  EXPECT_THAT(b.association.cibles, ElementsAre(page, page + "#contact"));
+}
+
+TEST_F(APropos, UnReglageVideEnEstUnQuiManque) {
+  Regle("SiteWeb", "");
+  Ouvre();
+  EXPECT_EQ(Lit("lblAdresselWeb"), Fr("page de présentation"));
 }
 
 TEST_F(APropos, UnClicOuvreLeSite) {
+  Regle("SiteWeb", "https://localhost/cuisine");
   Clique(Trouve(*dialogue, "lblAdresselWeb"));
-  EXPECT_THAT(b.association.cibles, ElementsAre(Adresse(Lien::site).toStdString()));
+  EXPECT_THAT(b.association.cibles, ElementsAre("https://localhost/cuisine"));
 }
 
 TEST_F(APropos, UnClicEcritUnCourrier) {
+  Regle("Courrier", "cuisine@localhost");
   Clique(Trouve(*dialogue, "lblAdresseEmail"));
-  EXPECT_THAT(b.association.cibles, ElementsAre("mailto:" + Adresse(Lien::courrier).toStdString()));
+  EXPECT_THAT(b.association.cibles, ElementsAre("mailto:cuisine@localhost"));
 }
 
 TEST_F(APropos, UneAutreAdresseSOuvreCommeCelleDuLien) {
@@ -132,8 +159,7 @@ TEST_F(APropos, LesLiensSOuvrentAuClavier) {
   EXPECT_TRUE((site.focusPolicy() & Qt::TabFocus) != 0);
   QTest::keyClick(&site, Qt::Key_Return);
   QTest::keyClick(&courrier, Qt::Key_Space);
-  EXPECT_THAT(b.association.cibles, ElementsAre(Adresse(Lien::site).toStdString(),
-                                                "mailto:" + Adresse(Lien::courrier).toStdString()));
+  EXPECT_THAT(b.association.cibles, testing::SizeIs(2));
   EXPECT_TRUE(dialogue->isVisible());
 }
 
@@ -162,15 +188,8 @@ TEST_F(APropos, ToutAutreEchecSeTait) {
   EXPECT_THAT(b.messages.vus, IsEmpty());
 }
 
-TEST_F(APropos, LesAdressesSeReglent) {
-  QSettings reglages(QSettings::UserScope, "Gastrelle 2005");
-  reglages.setValue("Adresses/SiteWeb", "https://ailleurs.example/");
-  reglages.sync();
-  Ouvre();
-  EXPECT_EQ(Lit("lblAdresselWeb"), "https://ailleurs.example/");
-  Clique(Trouve(*dialogue, "lblAdresselWeb"));
-  EXPECT_THAT(b.association.cibles, ElementsAre("https://ailleurs.example/"));
-  reglages.remove("Adresses/SiteWeb");
+TEST_F(APropos, LEmblemeAUnNom) {
+  EXPECT_EQ(Trouve(*dialogue, "picIcon").accessibleName(), Fr("Emblème de Gastrelle"));
 }
 
 TEST_F(APropos, OkFermeLeDialogue) {

@@ -2,16 +2,20 @@
 
 #include <QImageWriter>
 #include <QLabel>
+#include <QScreen>
 #include <QTest>
 #include <QToolBar>
+#include <QToolButton>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "controles/Conversion.h"
+#include "controles/Icones.h"
 #include "doublures/AideVue.h"
 #include "doublures/ApplicationEssai.h"
 #include "doublures/Bibliotheque.h"
 #include "doublures/Ecran.h"
+#include "doublures/EcranVirtuel.h"
 #include "shell/Aide.h"
 #include "shell/frmImage.h"
 
@@ -29,7 +33,8 @@ class Visualisateur : public testing::Test {
     b.Demarre();
     OublieFin();
     EcouteMessages(&b.messages);
-    ASSERT_EQ(QGuiApplication::primaryScreen()->size(), QSize(cote, cote));
+    const QScreen& ecran = *QGuiApplication::primaryScreen();
+    ASSERT_EQ(ecran.size() * ecran.devicePixelRatio(), QSize(cote, cote));
     b.module->contexteActif = 11;
   }
 
@@ -144,6 +149,67 @@ TEST_F(Visualisateur, UneGrandePhotographieCoucheeRemplitLEcranRedressee) {
   Ouvre();
   AttendEtiree();
   EXPECT_EQ(image().pixmap().size(), image().size());
+}
+
+/// The same screen of 800 by 800 where two of its pixels make one of the program's.
+class VisualisateurDense : public Visualisateur {
+ protected:
+  /// Runs the test there, if it doesn't yet.
+  static bool AReprendre(const QString& nom) {
+    const bool ailleurs = QGuiApplication::primaryScreen()->devicePixelRatio() == 1;
+    if (ailleurs) {
+      EXPECT_EQ(RejoueSurUnEcranDe({cote, cote}, 2, "VisualisateurDense." + nom), 0);
+    }
+    return ailleurs;
+  }
+};
+
+TEST_F(VisualisateurDense, UneImageQuiTientSurLeVerreGardeSesPoints) {
+  if (AReprendre("UneImageQuiTientSurLeVerreGardeSesPoints")) {
+    return;
+  }
+  Dessine(cote, 500);
+  Ouvre();
+  EXPECT_TRUE(picture().isVisible());
+  EXPECT_EQ(picture().pixmap().size(), QSize(cote, 500));
+  EXPECT_EQ(picture().pixmap().devicePixelRatio(), 2);
+  EXPECT_EQ(picture().size(), QSize(cote / 2, 250));
+  EXPECT_EQ(fenetre->size(), QSize(cote / 2, 250 + 2 * h()));
+}
+
+TEST_F(VisualisateurDense, UnPointDePlusEtElleRemplitLeVerre) {
+  if (AReprendre("UnPointDePlusEtElleRemplitLeVerre")) {
+    return;
+  }
+  Dessine(cote + 1, 100);
+  Ouvre();
+  EXPECT_FALSE(picture().isVisible());
+  EXPECT_TRUE(image().isVisible());
+  EXPECT_EQ(image().pixmap().size(), QSize(cote, cote - 6 * h()));
+  EXPECT_EQ(image().size(), QSize(cote / 2, cote / 2 - 3 * h()));
+}
+
+TEST_F(VisualisateurDense, LaHauteurDeLaBarreSeCompteEnPointsDuVerre) {
+  if (AReprendre("LaHauteurDeLaBarreSeCompteEnPointsDuVerre")) {
+    return;
+  }
+  Dessine(10, 10);
+  Ouvre();
+  const int limite = cote - 4 * h();
+  for (const int hauteur : {limite, limite + 1}) {
+    Dessine(300, hauteur);
+    Ouvre();
+    EXPECT_EQ(picture().isVisible(), hauteur == limite) << hauteur;
+  }
+}
+
+TEST_F(Visualisateur, LeBoutonQuiOuvreAilleursNEstPasUnAppareilPhoto) {
+  Dessine(300, 200);
+  Ouvre();
+  const auto vue = [](const QIcon& icone) { return icone.pixmap(24).toImage(); };
+  const QImage sienne = vue(Trouve<QToolButton>(*fenetre, "tbToolbar.Copier").icon());
+  EXPECT_NE(sienne, vue(IconeDe("camera")));
+  EXPECT_EQ(sienne, vue(IconeDe("ailleurs")));
 }
 
 class Formats : public Visualisateur, public testing::WithParamInterface<const char*> {};

@@ -265,6 +265,11 @@ TEST_F(Cadre, LesPanneauxDisentLesVerrousDuClavier) {
   QTest::keyClick(&Le("txtRecette"), Qt::Key_NumLock);
   EXPECT_FALSE(Le("StatusBar1.Maj").isEnabled());
   EXPECT_TRUE(Le("StatusBar1.Num").isEnabled());
+  EXPECT_EQ(Le("StatusBar1.Maj").accessibleDescription(),
+            Fr("Verrouillage des majuscules : désactivé"));
+  EXPECT_EQ(Le("StatusBar1.Num").accessibleDescription(),
+            Fr("Verrouillage du pavé numérique : activé"));
+  EXPECT_EQ(Le("StatusBar1").accessibleName(), "Barre de statuts");
   EXPECT_EQ(Texte(Le("StatusBar1.Maj")), "Maj");
   EXPECT_EQ(Texte(Le("StatusBar1.Num")), "Num");
 }
@@ -317,7 +322,15 @@ TEST_F(AvecImage, HorsDeLaListeLeVisualisateurAssocieNeFaitRien) {
 TEST_F(Cadre, LeSiteSOuvreParSonAssociation) {
   Ouvre();
   Choisit("mnuHelpGlSurLeWeb");
-  EXPECT_THAT(b.association.cibles, ElementsAre("https://www.gastrelle.example/"));
+  EXPECT_THAT(b.association.cibles,
+              ElementsAre("file://" + (b.dossier.chemin() / "presentation.html").string()));
+}
+
+TEST_F(Cadre, UnePageDePresentationQuiManqueSeTait) {
+  Ouvre();
+  b.association.reponse = Ouverture::echec;
+  Choisit("mnuHelpGlSurLeWeb");
+  EXPECT_THAT(b.messages.vus, IsEmpty());
 }
 
 TEST_F(Cadre, SansNavigateurLeSiteLeDit) {

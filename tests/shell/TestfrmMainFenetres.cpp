@@ -4,7 +4,9 @@
 #include <QClipboard>
 #include <QPlainTextEdit>
 #include <QTest>
+#include <QToolButton>
 
+#include "controles/Icones.h"
 #include "doublures/CadreVrai.h"
 #include "doublures/ToutesFenetres.h"
 
@@ -27,6 +29,7 @@ class FenetresDuCadre : public CadreVrai, public testing::WithParamInterface<Lig
     EXPECT_TRUE(Entree(GetParam().entree).isChecked());
     EXPECT_FALSE(b.pointeur.sablier);
   }
+  bool Coche() { return static_cast<QToolButton&>(BoutonBarre(GetParam().bouton)).isChecked(); }
 };
 
 TEST_P(FenetresDuCadre, SOuvrentParLeurEntree) {
@@ -53,6 +56,40 @@ TEST_P(FenetresDuCadre, SeulesSOuvrentEnTailleNormaleSiLaPreferenceLeVeut) {
   b.module->prefs[0].fenetreNormale = -1;
   Choisit(GetParam().entree);
   EXPECT_FALSE(Sous(GetParam().nom).isMaximized());
+}
+
+TEST_P(FenetresDuCadre, SOuvrentParLeurTouche) {
+  OuvreVide();
+  const qsizetype rang = Le<QMenu>("mnuView").actions().indexOf(&Entree(GetParam().entree));
+  QTest::keyClick(cadre.get(), static_cast<Qt::Key>(Qt::Key_1 + rang), Qt::ControlModifier);
+  QApplication::processEvents();
+  AttendSaFenetre();
+}
+
+TEST_P(FenetresDuCadre, OntLeurBoutonCochePourLaDureeDeLeurEntree) {
+  OuvreVide();
+  EXPECT_FALSE(Coche());
+  Choisit(GetParam().entree);
+  EXPECT_TRUE(Coche());
+  Clique(BoutonBarre(GetParam().bouton));
+  EXPECT_TRUE(Coche());
+  AttendSaFenetre();
+  Sous(GetParam().nom).close();
+  QApplication::processEvents();
+  EXPECT_FALSE(Coche());
+}
+
+TEST_P(FenetresDuCadre, PortentLImageDeLeurBoutonJusqueDansLaListe) {
+  OuvreVide();
+  Choisit(GetParam().entree);
+  const auto vue = [](const QIcon& icone) { return icone.pixmap(16).toImage(); };
+  const QImage attendue = vue(static_cast<QToolButton&>(BoutonBarre(GetParam().bouton)).icon());
+  EXPECT_EQ(vue(Sous(GetParam().nom).windowIcon()), attendue);
+  emit Le<QMenu>("mnuWindow").aboutToShow();
+  EXPECT_EQ(vue(Le<QMenu>("mnuWindow").actions().last()->icon()), attendue);
+  for (const QSize& taille : Sous(GetParam().nom).windowIcon().availableSizes()) {
+    EXPECT_LE(taille.width(), plusGrandeIconeFenetre);
+  }
 }
 
 INSTANTIATE_TEST_SUITE_P(Vues, FenetresDuCadre,
@@ -123,6 +160,32 @@ TEST_F(PlusieursFenetres, ReorganiserRangeLesIconesEnBas) {
   EXPECT_TRUE(menus().isMinimized());
   EXPECT_EQ(menus().x(), 0);
   EXPECT_EQ(menus().geometry().bottom() + 1, enfants().viewport()->height());
+}
+
+TEST_F(PlusieursFenetres, LesTouchesVontDUneFenetreALAutreDepuisUneZoneDeTexte) {
+  OuvreDeux();
+  Choisit("mnuViewBarreOutils");
+  ASSERT_FALSE(Le("tbToolBar").isVisible());
+  const auto appuie = [&](Qt::Key touche) {
+    QTest::keyClick(QApplication::focusWidget(), touche, Qt::ControlModifier);
+    QApplication::processEvents();
+  };
+  CliqueOnglet(Le("frmMenus"), 2);
+  QWidget& boite = Le("txtSaisieMenuAjouter");
+  boite.setFocus();
+  Tape(boite, "Un repas");
+  appuie(Qt::Key_1);
+  EXPECT_EQ(b.module->contexteActif, 11);
+  appuie(Qt::Key_QuoteDbl);  // the key of 3 on a French keyboard
+  EXPECT_EQ(b.module->contexteActif, 32);
+  EXPECT_TRUE(menus().isAncestorOf(QApplication::focusWidget()));
+}
+
+TEST_F(PlusieursFenetres, LaVirguleOuvreLesPreferences) {
+  OuvreDeux();
+  AvecDialogue(
+      [&] { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Comma, Qt::ControlModifier); },
+      [](QDialog& dialogue) { EXPECT_EQ(dialogue.objectName(), "frmPreferences"); });
 }
 
 // The edit commands with nothing to work on, and on several lines.

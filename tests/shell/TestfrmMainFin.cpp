@@ -2,12 +2,14 @@
 // its last step.
 
 #include <algorithm>
+#include <ostream>
 
 #include <QCloseEvent>
 #include <QTest>
 
 #include "doublures/AideVue.h"
 #include "doublures/CadreVrai.h"
+#include "doublures/EcranVirtuel.h"
 #include "shell/GeometrieCadre.h"
 
 namespace gastrelle::essai {
@@ -161,13 +163,71 @@ class PlaceDuCadre : public CadreVrai {
     reglages.setValue("Settings/MainHeight", QString::number(hauteur * 15));
   }
 
+  /// They again, as they are written.
+  static QStringList Reglees() {
+    const QSettings reglages(QSettings::UserScope, "Gastrelle 2005");
+    QStringList valeurs;
+    for (const char* cle : {"MainLeft", "MainTop", "MainWidth", "MainHeight"}) {
+      valeurs << reglages.value(QLatin1String("Settings/") + QLatin1String(cle)).toString();
+    }
+    return valeurs;
+  }
+
   const QRect ecran;
 };
 
 TEST_F(PlaceDuCadre, LaPremiereOuvertureEstEnHautAGaucheEnHuitCentsSurSixCents) {
+  if (ecran.width() <= 800) {
+    EXPECT_EQ(RejoueSurUnEcranDe({1280, 1024}, 1,
+                                 "PlaceDuCadre.LaPremiereOuvertureEstEnHautAGaucheEnHuitCentsSur"
+                                 "SixCents"),
+              0);
+    return;
+  }
   Ouvre();
   EXPECT_EQ(cadre->pos(), QPoint(0, 0));
   EXPECT_EQ(cadre->size(), QSize(800, 600));
+}
+
+TEST_F(PlaceDuCadre, ToutEnEstVuMemeSurUnPetitEcran) {
+  Ouvre();
+  const QRect vu = cadre->frameGeometry();
+  EXPECT_TRUE(ecran.contains(vu));
+  EXPECT_EQ(vu.width(), std::min(ecran.width(), 800 + vu.width() - cadre->width()));
+  EXPECT_EQ(vu.height(), std::min(ecran.height(), 600 + vu.height() - cadre->height()));
+  EXPECT_GT(vu.height(), cadre->height());  // there is a border
+  CliqueOnglet(Le("frmRecettes"), 2);
+  for (const char* nom : {"StatusBar1", "cmdValideAjouter"}) {
+    const QWidget& controle = Le(nom);
+    EXPECT_TRUE(controle.isVisible()) << nom;
+    EXPECT_TRUE(ecran.contains({controle.mapToGlobal(QPoint()), controle.size()})) << nom;
+  }
+  if (!qEnvironmentVariableIsSet("QT_SCALE_FACTOR")) {
+    const QString nom = "PlaceDuCadre.ToutEnEstVuMemeSurUnPetitEcran";
+    EXPECT_EQ(RejoueSurUnEcranDe({1024, 600}, 1, nom), 0);
+    EXPECT_EQ(RejoueSurUnEcranDe({1920, 1080}, 2, nom), 0);
+  }
+}
+
+TEST_F(PlaceDuCadre, UnPetitEcranNeLaRetrecitPasPourToujours) {
+  Ouvre();
+  ASSERT_LT(cadre->width(), 800);
+  cadre->close();
+  EXPECT_EQ(Reglees(), (QStringList{"0", "0", "12000", "9000"}));
+}
+
+TEST_F(PlaceDuCadre, CelleQueLUtilisateurChoisitSurUnPetitEcranEstLaSienne) {
+  Ouvre();
+  cadre->resize(700, 500);
+  cadre->close();
+  EXPECT_EQ(Reglees(), (QStringList{"0", "0", "10500", "7500"}));
+}
+
+TEST_F(PlaceDuCadre, DUnEcranPartiRevientQuandIlEstLa) {
+  Regle(5000, 10, 710, 505);
+  Ouvre();
+  cadre->close();
+  EXPECT_EQ(Reglees(), (QStringList{"75000", "150", "10650", "7575"}));
 }
 
 TEST_F(PlaceDuCadre, EstCelleDeLaFoisDAvant) {
@@ -187,11 +247,48 @@ TEST_F(PlaceDuCadre, HorsDeLEcranRevientOuOnLaVoit) {
   }
 }
 
-TEST_F(PlaceDuCadre, UnBordHorsDeLEcranResteOuIlEst) {
-  QWidget fenetre;
-  Place(fenetre, {-100, 40, 710, 505});
-  EXPECT_EQ(fenetre.geometry(), QRect(-100, 40, 710, 505));
+/// A wished place, the screens, what is shown; the border is of 4 pixels, of 30 at the top.
+struct CasPlace {
+  const char* nom;
+  QRect souhait;
+  QList<QRect> ecrans;
+  QRect montree;
+};
+
+void PrintTo(const CasPlace& cas, std::ostream* sortie) {
+  *sortie << cas.nom;
 }
+
+class PlacesVisibles : public testing::TestWithParam<CasPlace> {};
+
+TEST_P(PlacesVisibles, SontCellesOuRienNeManque) {
+  EXPECT_EQ(PlaceVisible(GetParam().souhait, {4, 30, 4, 4}, GetParam().ecrans), GetParam().montree);
+}
+
+const QRect grand(0, 0, 1920, 1080);
+const QRect netbook(0, 0, 1024, 600);
+const QRect sousUnPanneau(0, 27, 1366, 741);
+
+INSTANTIATE_TEST_SUITE_P(
+    Cadre, PlacesVisibles,
+    testing::Values(
+        CasPlace{"Tient", {100, 50, 800, 600}, {grand}, {100, 50, 800, 600}},
+        CasPlace{"TropHaute", {0, 0, 800, 600}, {netbook}, {0, 0, 800, 566}},
+        CasPlace{"TropGrande", {300, 200, 1600, 900}, {netbook}, {0, 0, 1016, 566}},
+        CasPlace{"SousLeBasDeLEcran", {10, 300, 700, 500}, {netbook}, {10, 66, 700, 500}},
+        CasPlace{"AuDelaDeLaDroite", {600, 20, 700, 500}, {netbook}, {316, 20, 700, 500}},
+        CasPlace{"AuDelaDeLaGauche", {-100, 40, 710, 505}, {netbook}, {-100, 40, 710, 505}},
+        CasPlace{"SousUnPanneau", {0, 0, 800, 600}, {sousUnPanneau}, {0, 27, 800, 600}},
+        CasPlace{"HorsDeTout", {5000, 10, 710, 505}, {sousUnPanneau}, {0, 27, 710, 505}},
+        CasPlace{"SurLeSecondEcran",
+                 {2000, 10, 900, 700},
+                 {grand, {1920, 0, 1024, 600}},
+                 {2000, 0, 900, 566}},
+        CasPlace{"SurDeuxEcrans",
+                 {1000, 10, 1800, 900},
+                 {grand, {1920, 0, 1920, 1080}},
+                 {1000, 10, 1800, 900}}),
+    testing::PrintToStringParamName());
 
 TEST_F(PlaceDuCadre, ReduitIlGardeCelleDAvant) {
   QSettings(QSettings::UserScope, "Gastrelle 2005").setValue("Settings/MainWidth", "10500");
@@ -210,7 +307,8 @@ TEST_F(PlaceDuCadre, DesReglagesIllisiblesPrennentLeurValeurParDefaut) {
   reglages.setValue("Settings/MainHeight", "");
   reglages.sync();
   Ouvre();
-  EXPECT_EQ(cadre->size(), QSize(800, 600));
+  cadre->close();
+  EXPECT_EQ(Reglees(), (QStringList{"0", "0", "12000", "9000"}));
 }
 
 }  // namespace

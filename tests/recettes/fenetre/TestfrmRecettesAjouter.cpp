@@ -414,7 +414,7 @@ TEST_F(Ajouter, LImageDuWebOuvreLaPageDesRecettes) {
   Ouvre(2);
   EXPECT_EQ(Le("PictureWeb").toolTip(), "Cliquez ici pour rechercher de nouvelles recettes");
   Clique(Le("PictureWeb"));
-  EXPECT_THAT(b.association.cibles, ElementsAre("https://www.gastrelle.example/recettes"));
+  EXPECT_THAT(b.association.cibles, ElementsAre("https://fr.wikibooks.org/wiki/Livre_de_cuisine"));
   EXPECT_THAT(b.messages.vus, IsEmpty());
 }
 
