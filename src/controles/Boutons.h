@@ -38,7 +38,7 @@ class PiedBoutons final : public QHBoxLayout {
   }
   /// Shows what is selected in a list.
   QPushButton* Affiche(const char* nom, const char16_t* infobulle, const Action& action) {
-    return Ajoute(nom, u"Affi&cher", "valider", infobulle, action);
+    return Ajoute(nom, u"Affi&cher", "afficher", infobulle, action);
   }
   QPushButton* Aide(const char* nom);
   /// Any other button.

@@ -34,6 +34,9 @@ void frmRecettesListe::Dispose() {
   contenu().addWidget(ComboRecettes, 1, 1);
   contenu().addWidget(lblLaRecette, 2, 0, 1, 2);
   contenu().addWidget(txtRecette, 3, 0, 1, 2);
+  constexpr int deQuoiLireUnDebut = 80;  // side by side in a narrow tile
+  ComboFamilles->setMinimumWidth(deQuoiLireUnDebut);
+  ComboRecettes->setMinimumWidth(deQuoiLireUnDebut);
   contenu().setColumnStretch(0, 2);
   contenu().setColumnStretch(1, 3);
   contenu().setRowStretch(3, 1);

@@ -3,11 +3,13 @@
 
 #include <QAbstractButton>
 #include <QKeySequence>
+#include <QScrollArea>
 #include <QTest>
 
 #include "controles/BandeauLogo.h"
 #include "controles/Boutons.h"
 #include "controles/Legende.h"
+#include "controles/ZoneTexte.h"
 #include "doublures/FenetreEssai.h"
 #include "doublures/ToutesFenetres.h"
 #include "shell/MenusCadre.h"
@@ -74,7 +76,7 @@ class Fenetres : public FenetreEssai<FenetreEnfant>,
     QStringList noms;
     const auto& cadres = *fenetre->findChild<QStackedWidget*>();
     for (int i = 0; i < cadres.count(); ++i) {
-      noms << cadres.widget(i)->objectName();
+      noms << qobject_cast<QScrollArea*>(cadres.widget(i))->widget()->objectName();
     }
     return noms;
   }
