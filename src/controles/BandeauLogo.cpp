@@ -2,6 +2,7 @@
 
 #include <QHBoxLayout>
 
+#include "controles/Etiquette.h"
 #include "controles/Icones.h"
 
 namespace gastrelle {
@@ -9,12 +10,11 @@ namespace {
 
 constexpr int ecart = 12;
 constexpr int tailleLogo = 48;
-constexpr int largeurAnnonce = 120;
-constexpr int lignesAnnonce = 3;
+constexpr int lignesDAisance = 4;  ///< that the band leaves to the texts of the page
 constexpr double agrandissement = 1.5;
 
 QLabel* Entete(const QString& texte, QWidget* parent) {
-  auto* etiquette = new QLabel(texte, parent);
+  auto* etiquette = new Etiquette(texte, parent);
   QFont police = etiquette->font();
   police.setPointSizeF(police.pointSizeF() * agrandissement);
   etiquette->setFont(police);
@@ -31,48 +31,40 @@ QLabel* Logo(const char* nom, const QString& infobulle, const QString& entete, Q
   return logo;
 }
 
-ZoneTexte* Annonce(const QString& nom, QWidget* parent) {
-  auto* boite = new ZoneTexte(nom, sansLimite, parent);
-  boite->RendLectureSeule();
-  boite->setFrameShape(QFrame::NoFrame);
-  boite->setFocusPolicy(Qt::NoFocus);
-  boite->viewport()->setBackgroundRole(QPalette::Window);
-  boite->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  boite->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  boite->setLineWrapMode(QPlainTextEdit::NoWrap);
-  QTextOption option = boite->document()->defaultTextOption();
-  option.setAlignment(Qt::AlignRight);
-  boite->document()->setDefaultTextOption(option);
-  const int marges = static_cast<int>(2 * boite->document()->documentMargin());
-  boite->setFixedSize(largeurAnnonce, lignesAnnonce * boite->fontMetrics().lineSpacing() + marges);
-  boite->setAccessibleName(QStringLiteral("Nombre de fiches"));
-  return boite;
-}
-
 }  // namespace
 
 BandeauLogo::BandeauLogo(const char* logo, const QString& entete, const QString& infobulle,
                          QWidget* parent)
-    : QWidget(parent), titres_(new QVBoxLayout) {
+    : QWidget(parent), titres_(new QVBoxLayout), entete_(Entete(entete, this)) {
   auto* bande = new QHBoxLayout(this);
   bande->setContentsMargins(0, 0, 0, 0);
   bande->addWidget(Logo(logo, infobulle, entete, this));
   bande->addSpacing(ecart);
   bande->addLayout(titres_, 1);
   titres_->addStretch(1);
-  titres_->addWidget(Entete(entete, this));
+  titres_->addWidget(entete_);
   titres_->addStretch(1);
 }
 
 void BandeauLogo::AjouteLigne(const QString& texte) {
-  auto* ligne = new QLabel(texte, this);
+  auto* ligne = new Etiquette(texte, this);
   ligne->setObjectName(QStringLiteral("lblLigneLogo"));
   titres_->insertWidget(titres_->count() - 1, ligne);
 }
 
 void BandeauLogo::AjouteAnnonce(const QString& nom) {
-  annonce_ = Annonce(nom, this);
+  annonce_ = new BoiteAnnonce(nom, this);
   layout()->addWidget(annonce_);
+}
+
+void BandeauLogo::TientDans(const QSize& place) {
+  QLayout* page = parentWidget()->layout();
+  const QMargins marges = page->contentsMargins();
+  const int largeur = minimumSizeHint().width() + marges.left() + marges.right();
+  const int sienne = sizeHint().height() + page->spacing();
+  const int reste = page->totalMinimumSize().height() - (isHidden() ? 0 : sienne);
+  const int hauteur = sienne + reste + lignesDAisance * fontMetrics().lineSpacing();
+  setVisible(place.width() >= largeur && place.height() >= hauteur);
 }
 
 }  // namespace gastrelle

@@ -41,7 +41,7 @@ class PiedBoutons final : public QHBoxLayout {
   }
   /// Shows what is selected in a list. Ctrl+Return as for `Valide`.
   QPushButton* Affiche(const char* nom, const char16_t* infobulle, const Action& action) {
-    return AjouteConclusion(nom, u"Affi&cher", "valider", infobulle, action);
+    return AjouteConclusion(nom, u"Affi&cher", "afficher", infobulle, action);
   }
   QPushButton* Aide(const char* nom);
   /// Any other button.

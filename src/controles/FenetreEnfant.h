@@ -22,7 +22,7 @@ struct DescriptionFenetre {
   bool razReduite = false;  ///< resets the frame when it is minimised
   bool seCache = false;     ///< its close box hides it: the program alone unloads it
   QSize taille{116, 35};    ///< at first, at normal size: letters of mean width, lines
-  QSize moindre{116, 27};
+  QSize moindre{48, 10};    ///< the page scrolls
 };
 
 class FenetreEnfant : public QWidget {

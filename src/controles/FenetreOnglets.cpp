@@ -5,10 +5,26 @@
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 
+#include "controles/Defilement.h"
 #include "controles/Touches.h"
 #include "data/ProceduresFichiers.h"
 
 namespace gastrelle {
+namespace {
+
+/// A page in a place of its own, where it scrolls.
+QWidget* Loge(Onglet& page, QWidget* parent) {
+  auto* place = new Defilement(&page, parent);
+  place->surTaille = [&page](const QSize& taille) { page.TientDans(taille); };
+  return place;
+}
+
+/// The place around a page, with the glass that it moves behind.
+QWidget* PlaceDe(const Onglet& page) {
+  return page.parentWidget()->parentWidget();
+}
+
+}  // namespace
 
 FenetreOnglets::FenetreOnglets(Module1& module, Cadre& cadre, const DescriptionFenetre& description,
                                const JeuOnglets& jeu)
@@ -17,7 +33,7 @@ FenetreOnglets::FenetreOnglets(Module1& module, Cadre& cadre, const DescriptionF
       TabStrip1_(new QTabBar(this)),
       pile_(new QStackedWidget(this)),
       pages_(jeu.onglets.size()) {
-  constexpr int marge = 6;
+  constexpr int marge = 4;
   TabStrip1_->setObjectName(QStringLiteral("TabStrip1"));
   TabStrip1_->setAccessibleName(QStringLiteral("Onglets"));
   TabStrip1_->setExpanding(false);
@@ -27,7 +43,7 @@ FenetreOnglets::FenetreOnglets(Module1& module, Cadre& cadre, const DescriptionF
     TabStrip1_->setTabToolTip(indice, QString::fromUtf16(onglet.infobulle));
   }
   auto* fond = new QVBoxLayout(this);
-  fond->setContentsMargins(marge, marge, marge, marge);
+  fond->setContentsMargins(marge, marge, marge, 0);
   fond->setSpacing(0);
   fond->addWidget(TabStrip1_);
   fond->addWidget(pile_, 1);
@@ -43,7 +59,7 @@ Onglet& FenetreOnglets::Page(int onglet) {
   if (page == nullptr) {
     const DescriptionOnglet& sienne = jeu_.onglets[rang];
     page = &sienne.cree({*this, onglet, sienne, description().logo, jeu_.ligneDuLogo});
-    pile_->addWidget(page);
+    pile_->addWidget(Loge(*page, pile_));
   }
   return *page;
 }
@@ -74,7 +90,7 @@ void FenetreOnglets::ClicOnglet(int onglet) {
 }
 
 void FenetreOnglets::MontrePage(int onglet) {
-  pile_->setCurrentWidget(&Page(onglet));
+  pile_->setCurrentWidget(PlaceDe(Page(onglet)));
   ongletCourant_ = onglet;
   ColoreRefus();
   EtatOnglet();

@@ -48,6 +48,8 @@ class Onglet : public QWidget {
   virtual void Entre() = 0;
   /// Text of the box in the logo band, Windows-1252.
   virtual void PoseAnnonce(std::string_view texte) = 0;
+  /// The place of the page is that large, in pixels: what it can do without gives way.
+  virtual void TientDans(const QSize& place) = 0;
   /// What the tab shows, for those who read it from outside.
   [[nodiscard]] virtual Vue VueCourante() const { return {}; }
 };

@@ -10,8 +10,7 @@
 namespace gastrelle {
 namespace {
 
-constexpr std::array tailles{16, 24, 32, 48, 64, 96, 192};
-static_assert(tailles.back() == plusGrandeIcone);
+constexpr std::array tailles{16, 24, 32, 48, 64, 96, plusGrandeIcone, plusGrandDessin};
 
 QString Fichier(const QString& nom, int taille) {
   return QStringLiteral(":/icones/%1-%2.png").arg(nom).arg(taille);
@@ -50,13 +49,14 @@ class MoteurIcone final : public QIconEngine {
 
  private:
   /// The icon with the picture for that size in it: the smallest one that is
-  /// large enough.
+  /// large enough, or the largest there is.
   const QIcon& Lue(const QSize& voulue) {
     const int cote = std::max(voulue.width(), voulue.height());
-    const auto assez = std::find_if(tailles.begin(), tailles.end(), [&](int taille) {
-      return taille >= cote && QFile::exists(Fichier(nom_, taille));
-    });
-    const int taille = assez != tailles.end() ? *assez : tailles.back();
+    const auto presente = [&](int taille) { return QFile::exists(Fichier(nom_, taille)); };
+    const auto assez = std::find_if(tailles.begin(), tailles.end(),
+                                    [&](int taille) { return taille >= cote && presente(taille); });
+    const int taille =
+        assez != tailles.end() ? *assez : *std::find_if(tailles.rbegin(), tailles.rend(), presente);
     if (!lues_.contains(taille)) {
       lues_.append(taille);
       icone_.addPixmap(QPixmap(Fichier(nom_, taille)));

@@ -6,6 +6,8 @@
 namespace gastrelle {
 
 inline constexpr int plusGrandeIcone = 192;
+/// The drawings that stand alone on a page, and the emblem, are there in this size as well.
+inline constexpr int plusGrandDessin = 384;
 /// A window hands its icon in every size to the system, which shows small ones.
 inline constexpr int plusGrandeIconeFenetre = 64;
 

@@ -1,12 +1,15 @@
 #include "controles/PageOnglet.h"
 
 #include "controles/BandeauLogo.h"
+#include "controles/GroupeOptions.h"
 #include "controles/Touches.h"
 
 namespace gastrelle {
 namespace {
 
-constexpr int marge = 12;
+constexpr int marge = 10;
+constexpr int margeHaute = 8;
+constexpr int margeBasse = 4;
 
 BandeauLogo* Bandeau(const PlaceOnglet& place, QWidget* parent) {
   const QString infobulle = QString::fromUtf16(place.description.infobulleLogo);
@@ -25,16 +28,13 @@ PageOnglet::PageOnglet(const PlaceOnglet& place)
     : Onglet(&place.hote),
       hote_(place.hote),
       bandeau_(Bandeau(place, this)),
-      options_(new QHBoxLayout),
       contenu_(new QGridLayout),
       boutons_(new PiedBoutons) {
   setObjectName(QStringLiteral("Frame1(%1)").arg(place.numero));
   setProperty(proprieteSujet, QLatin1String(place.description.sujetAide));
-  options_->setSpacing(2 * marge);
   auto* page = new QVBoxLayout(this);
-  page->setContentsMargins(marge, marge, marge, marge);
+  page->setContentsMargins(marge, margeHaute, marge, margeBasse);
   page->addWidget(bandeau_);
-  page->addLayout(options_);
   page->addLayout(contenu_, 1);
   page->addLayout(boutons_);
 }
@@ -43,18 +43,18 @@ void PageOnglet::PoseAnnonce(std::string_view texte) {
   bandeau_->PoseAnnonce(texte);
 }
 
+void PageOnglet::TientDans(const QSize& place) {
+  bandeau_->TientDans(place);
+}
+
 std::array<QRadioButton*, 2> PageOnglet::Options(const char* nom, const char16_t* premiere,
                                                  const char16_t* seconde) {
-  const auto option = [&](int indice, const char16_t* titre) {
-    auto* bouton = new QRadioButton(QString::fromUtf16(titre), this);
-    bouton->setObjectName(QStringLiteral("%1(%2)").arg(QLatin1String(nom)).arg(indice));
-    options_->addWidget(bouton);
-    return bouton;
-  };
-  QRadioButton* const premier = option(0, premiere);
-  QRadioButton* const second = option(1, seconde);
-  options_->addStretch(1);
-  return {premier, second};
+  constexpr int sousLeBandeau = 1;
+  auto* groupe = new GroupeOptions(QLatin1String(nom),
+                                   {QString::fromUtf16(premiere), QString::fromUtf16(seconde)},
+                                   bandeau_->entete(), this);
+  static_cast<QVBoxLayout*>(layout())->insertWidget(sousLeBandeau, groupe);
+  return groupe->options();
 }
 
 int PageOnglet::AjouteACote(const QString& legende, QWidget* controle) {

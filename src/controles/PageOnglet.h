@@ -20,6 +20,7 @@ class PageOnglet : public Onglet {
   explicit PageOnglet(const PlaceOnglet& place);
 
   void PoseAnnonce(std::string_view texte) override;
+  void TientDans(const QSize& place) override;
 
  protected:
   [[nodiscard]] FenetreOnglets& hote() const { return hote_; }
@@ -30,7 +31,7 @@ class PageOnglet : public Onglet {
   /// The row of buttons at the page's foot.
   [[nodiscard]] PiedBoutons& boutons() { return *boutons_; }
   /// A pair of option buttons at the page's head, before its controls: what the page works on. They
-  /// are named `nom` with their index.
+  /// are named `nom` with their index; as a group they bear the page's heading.
   std::array<QRadioButton*, 2> Options(const char* nom, const char16_t* premiere,
                                        const char16_t* seconde);
 
@@ -44,7 +45,6 @@ class PageOnglet : public Onglet {
  private:
   FenetreOnglets& hote_;
   BandeauLogo* bandeau_;
-  QHBoxLayout* options_;
   QGridLayout* contenu_;
   PiedBoutons* boutons_;
 };

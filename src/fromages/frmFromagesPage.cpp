@@ -1,11 +1,13 @@
 #include "fromages/frmFromagesPage.h"
 
+#include "controles/Etiquette.h"
 #include "controles/Focus.h"
 
 namespace gastrelle {
 namespace {
 
 constexpr int lettresCode = 24;  ///< width of a milk or a month, with the arrow of its list
+constexpr int lettresCodeAuMoins = 15;
 
 }  // namespace
 
@@ -13,13 +15,15 @@ void frmFromagesPage::Dispose(const ChampsFromage& champs) {
   AjouteACote(QStringLiteral("Le fro&mage"), champs.nom);
   AjouteACote(QStringLiteral("Sa &région d'origine"), champs.region);
   RangCourt(Legende(QStringLiteral("Au &lait de "), champs.lait), {champs.lait});
-  RangCourt(new QLabel(QStringLiteral("Meilleure période de dégustation "), this),
+  RangCourt(new Etiquette(QStringLiteral("Meilleure période de dégustation "), this),
             {Legende(QStringLiteral("&de"), champs.premierMois), champs.premierMois,
              Legende(QStringLiteral("à"), champs.dernierMois), champs.dernierMois});
   champs.premierMois->setAccessibleName(QStringLiteral("Premier mois de dégustation"));
   champs.dernierMois->setAccessibleName(QStringLiteral("Dernier mois de dégustation"));
   for (QWidget* code : {champs.lait, champs.premierMois, champs.dernierMois}) {
-    code->setFixedWidth(lettresCode * code->fontMetrics().averageCharWidth());
+    const int lettre = code->fontMetrics().averageCharWidth();
+    code->setMinimumWidth(lettresCodeAuMoins * lettre);
+    code->setMaximumWidth(lettresCode * lettre);
   }
   contenu().setRowStretch(AjouteACote(QStringLiteral("No&tes"), champs.notes), 1);
   OrdonneClavier({champs.nom, champs.region, champs.lait, champs.premierMois, champs.dernierMois,
@@ -28,8 +32,10 @@ void frmFromagesPage::Dispose(const ChampsFromage& champs) {
 
 void frmFromagesPage::RangCourt(QLabel* legende, std::initializer_list<QWidget*> controles) {
   auto* suite = new QHBoxLayout;
+  // A box grows up to its greatest width, then what follows the row does.
+  constexpr int avantLaSuite = 1000;
   for (QWidget* controle : controles) {
-    suite->addWidget(controle);
+    suite->addWidget(controle, qobject_cast<QLabel*>(controle) == nullptr ? avantLaSuite : 0);
   }
   suite->addStretch(1);
   const int rang = contenu().rowCount();

@@ -1,7 +1,7 @@
 #include "fromages/frmFromagesTrier.h"
 
+#include "controles/Dessin.h"
 #include "controles/Focus.h"
-#include "controles/Icones.h"
 #include "data/ProceduresFichiers.h"
 #include "fromages/CatalogueFromages.h"
 #include "fromages/frmFromagesListe.h"
@@ -9,13 +9,8 @@
 namespace gastrelle {
 namespace {
 
-QLabel* Dessin(const QString& nom, const QString& icone, QWidget* parent) {
-  auto* image = new QLabel(parent);
-  image->setObjectName(nom);
-  image->setPixmap(IconeDe(icone).pixmap(plusGrandeIcone, plusGrandeIcone));
-  image->setAlignment(Qt::AlignCenter);
-  return image;
-}
+constexpr int coteSouris = 288;
+constexpr int coteAnimal = 192;
 
 }  // namespace
 
@@ -24,11 +19,14 @@ frmFromagesTrier::frmFromagesTrier(const PlaceOnglet& place, frmFromagesListe& l
       liste_(liste),
       ComboLaitTrier_(new ComboListe(QStringLiteral("ComboLaitTrier"), Ordre::insertion, this)),
       List1_(new ListeChoix(QStringLiteral("List1"), Ordre::alphabetique, this)),
-      PictureSouris_(Dessin(QStringLiteral("PictureSouris"), QStringLiteral("souris"), this)),
-      PictureAnimal_{
-          Dessin(QStringLiteral("PictureAnimal(0)"), QStringLiteral("animal-vache"), this),
-          Dessin(QStringLiteral("PictureAnimal(1)"), QStringLiteral("animal-chevre"), this),
-          Dessin(QStringLiteral("PictureAnimal(2)"), QStringLiteral("animal-brebis"), this)},
+      PictureSouris_(
+          new Dessin(QStringLiteral("PictureSouris"), QStringLiteral("souris"), coteSouris, this)),
+      PictureAnimal_{new Dessin(QStringLiteral("PictureAnimal(0)"), QStringLiteral("animal-vache"),
+                                coteAnimal, this),
+                     new Dessin(QStringLiteral("PictureAnimal(1)"), QStringLiteral("animal-chevre"),
+                                coteAnimal, this),
+                     new Dessin(QStringLiteral("PictureAnimal(2)"), QStringLiteral("animal-brebis"),
+                                coteAnimal, this)},
       cmdActiver_(boutons().Affiche("cmdActiver", u"Afficher le fromage sélectionné",
                                     [this] { AfficheSelection(); })) {
   Dispose();
@@ -47,6 +45,7 @@ void frmFromagesTrier::Dispose() {
   choix->addWidget(ComboLaitTrier_);
   choix->addStretch(1);
   // Either the list with its animal, or the mouse alone.
+  PictureSouris_->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
   auto* page = new QHBoxLayout;
   page->addWidget(List1_, 2);
   page->addWidget(PictureSouris_, 1);

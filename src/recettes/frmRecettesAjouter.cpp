@@ -9,6 +9,9 @@
 namespace gastrelle {
 namespace {
 
+constexpr int coteWeb = 32;
+constexpr int bordWeb = 4;
+
 constexpr DescriptionSaisieRecette noms{"Option1",
                                         u"&Une famille de recettes",
                                         u"Une &recette",
@@ -40,8 +43,11 @@ void frmRecettesAjouter::PoseBoutons() {
       Bouton(QStringLiteral("PictureWeb"), {}, QStringLiteral("web"),
              QStringLiteral("Cliquez ici pour rechercher de nouvelles recettes"), this);
   web->setFlat(true);
+  web->setIconSize({coteWeb, coteWeb});
+  web->setFixedSize({coteWeb + bordWeb, coteWeb + bordWeb});
+  web->setCursor(Qt::PointingHandCursor);
   connect(web, &QPushButton::clicked, this, [this] { OuvreLien(module(), Lien::recettes); });
-  boutons().insertWidget(0, web);
+  boutons().addWidget(web);
   boutons().Valide("cmdValideAjouter", u"Valider les saisies", [this] {
     Opere(module(), [this] { modes_.premier() ? ValideFamille() : ValideRecette(); });
   });

@@ -40,6 +40,9 @@ void frmRecettesListe::Dispose() {
   contenu().addWidget(Legende(QStringLiteral("Les &recettes de la famille"), ComboRecettes), 0, 1);
   contenu().addWidget(ComboFamilles, 1, 0);
   contenu().addWidget(ComboRecettes, 1, 1);
+  constexpr int deQuoiLireUnDebut = 80;  // side by side in a narrow tile
+  ComboFamilles->setMinimumWidth(deQuoiLireUnDebut);
+  ComboRecettes->setMinimumWidth(deQuoiLireUnDebut);
   contenu().setColumnStretch(0, 2);
   contenu().setColumnStretch(1, 3);
   boutons().Aide("cmdAideListe");

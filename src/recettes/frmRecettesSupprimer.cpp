@@ -3,6 +3,7 @@
 #include "controles/ComboListe.h"
 #include "controles/Conversion.h"
 #include "controles/FeuilleTexte.h"
+#include "controles/LigneTexte.h"
 #include "data/Limites.h"
 #include "data/ProceduresFichiers.h"
 #include "recettes/ChangementRecettes.h"
@@ -14,12 +15,16 @@ namespace {
 constexpr std::size_t famille = 0;
 constexpr std::size_t recette = 1;
 
-/// A label that shows a value: framed like a box, selectable.
+/// A label that shows a value: framed, coloured and as high as a box of one line, selectable.
 QLabel* Valeur(const QString& nom, QWidget* parent) {
-  auto* valeur = new QLabel(parent);
+  auto* valeur = new Etiquette({}, parent);
   valeur->setObjectName(nom);
-  valeur->setTextFormat(Qt::PlainText);
   valeur->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
+  valeur->setMargin(2);
+  valeur->setAutoFillBackground(true);
+  valeur->setBackgroundRole(QPalette::Base);
+  valeur->setForegroundRole(QPalette::Text);
+  valeur->setMinimumHeight(LigneTexte({}, sansLimite).sizeHint().height());
   valeur->setTextInteractionFlags(Qt::TextSelectableByMouse);
   valeur->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
   return valeur;

@@ -9,6 +9,7 @@
 #include "data/ProceduresFichiers.h"
 #include "maintenance/frmPreferences.h"
 #include "maintenance/frmSauvegarde.h"
+#include "shell/AireFenetres.h"
 #include "shell/CommandesEdition.h"
 #include "shell/Disposition.h"
 #include "shell/ImageAssociee.h"
@@ -19,7 +20,7 @@ namespace gastrelle {
 
 frmMain::frmMain(Module1& module, Clavier& clavier)
     : module_(module),
-      enfants_(new QMdiArea(this)),
+      enfants_(new AireFenetres(this)),
       barres_(*this),
       statut_(new BarreStatut(clavier, this)),
       fenetres_(module, *this, *enfants_),

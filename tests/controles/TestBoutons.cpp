@@ -51,6 +51,14 @@ TEST_F(Pied, UnBoutonSansTitreSeNommeParSonInfobulle) {
   EXPECT_EQ(Dit(*web, QAccessible::Name), "Chercher ailleurs");
 }
 
+TEST_F(Pied, AfficherNAPasLImageDeValider) {
+  const auto image = [](const QPushButton& bouton) { return bouton.icon().pixmap(24).toImage(); };
+  const QPushButton& valide = *pied->Valide("cmdValide", u"", {});
+  const QPushButton& affiche = *pied->Affiche("cmdAffiche", u"", {});
+  EXPECT_FALSE(image(affiche).isNull());
+  EXPECT_NE(image(affiche), image(valide));
+}
+
 TEST_F(Pied, LAideEnvoieLaToucheF1) {
   QPushButton* aide = pied->Aide("cmdAide");
   page.show();

@@ -119,6 +119,48 @@ TEST_F(Dispositions, LaCascadeDecaleChaqueFenetreVersLeBasEtLaDroite) {
   }
 }
 
+TEST_F(Dispositions, LaCascadeVaDeLaFenetreDuFondACelleDuDessus) {
+  QMdiSubWindow& a = Ajoute();
+  QMdiSubWindow& m = Ajoute();
+  QMdiSubWindow& z = Ajoute();
+  enfants.setActiveSubWindow(&a);
+  Dispose(Disposition::cascade);
+  EXPECT_EQ(enfants.subWindowList(QMdiArea::StackingOrder), (QList{&m, &z, &a}));
+  EXPECT_EQ(enfants.activeSubWindow(), &a);
+  EXPECT_EQ(m.pos(), QPoint());
+  EXPECT_LT(m.x(), z.x());
+  EXPECT_LT(z.x(), a.x());
+}
+
+TEST_F(Dispositions, LaCascadeTientDansLeCadreEtLaisseVoirTousLesTitres) {
+  constexpr int toutes = 9;
+  for (int i = 0; i < toutes; ++i) {
+    Ajoute({40 * i, 500, 700, 500});
+    Dispose(Disposition::cascade);
+    const QList<QMdiSubWindow*> fenetres = enfants.subWindowList(QMdiArea::StackingOrder);
+    for (const QMdiSubWindow* fenetre : fenetres) {
+      EXPECT_TRUE(QRect(0, 0, 600, 400).contains(fenetre->geometry()));
+      EXPECT_EQ(fenetre->size(), fenetres.first()->size());
+      EXPECT_GE(fenetre->width(), 300);
+    }
+    for (int f = 1; f < fenetres.size(); ++f) {
+      const int titre = fenetres[f]->widget()->mapTo(fenetres[f], QPoint()).y();
+      EXPECT_GE(fenetres[f]->y() - fenetres[f - 1]->y(), titre - 4);
+    }
+  }
+}
+
+TEST_F(Dispositions, LesTuilesCouvrentAussiLaPlaceDesBarresDeDefilement) {
+  enfants.setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+  enfants.setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+  const QMdiSubWindow& a = Ajoute({500, 350, 400, 300});
+  QApplication::processEvents();
+  ASSERT_LT(enfants.viewport()->width(), 600);
+  Dispose(Disposition::mosaiqueHorizontale);
+  EXPECT_EQ(a.geometry(), QRect(0, 0, 600, 400));
+  EXPECT_EQ(enfants.viewport()->size(), QSize(600, 400));
+}
+
 TEST_F(Dispositions, UneFenetreReduiteGardeSaPlace) {
   const QMdiSubWindow& a = Ajoute();
   const QMdiSubWindow& reduite = AjouteReduite({120, 70});

@@ -6,12 +6,14 @@
 
 #include <QAbstractButton>
 #include <QKeySequence>
+#include <QScrollArea>
 #include <QTest>
 
 #include "controles/BandeauLogo.h"
 #include "controles/BoitesTexte.h"
 #include "controles/Boutons.h"
 #include "controles/Legende.h"
+#include "controles/ZoneTexte.h"
 #include "doublures/FenetreEssai.h"
 #include "doublures/LecteurEcran.h"
 #include "doublures/ToutesFenetres.h"
@@ -79,7 +81,7 @@ class Fenetres : public FenetreEssai<FenetreEnfant>,
     QStringList noms;
     const auto& cadres = *fenetre->findChild<QStackedWidget*>();
     for (int i = 0; i < cadres.count(); ++i) {
-      noms << cadres.widget(i)->objectName();
+      noms << qobject_cast<QScrollArea*>(cadres.widget(i))->widget()->objectName();
     }
     return noms;
   }

@@ -1,5 +1,7 @@
 // The tab "Trier" of the cheeses window, through its controls.
 
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTest>
 
 #include "fromages/fenetre/FenetreFromages.h"
@@ -54,6 +56,48 @@ TEST_F(TrierLesFromages, CommenceSansLaitChoisi) {
   EXPECT_EQ(Textes(lait()), (QStringList{"?", "Vache", Fr("Chèvre"), "Brebis"}));
   EXPECT_EQ(lait().currentText(), "?");
   AttendPageDeDepart();
+}
+
+TEST_F(TrierLesFromages, LaSourisAttendEnHautAuMilieuSousLaListe) {
+  Ouvre(5);
+  fenetre->resize(1200, 900);
+  QApplication::processEvents();
+  const QImage page = Le("PictureSouris").grab().toImage();
+  QRect dessin;
+  for (int y = 0; y < page.height(); ++y) {
+    for (int x = 0; x < page.width(); ++x) {
+      if (page.pixel(x, y) != page.pixel(0, page.height() - 1)) {
+        dessin |= QRect(x, y, 1, 1);
+      }
+    }
+  }
+  EXPECT_LT(dessin.top(), 20);
+  EXPECT_NEAR(dessin.center().x(), page.width() / 2, 20);
+  EXPECT_GT(dessin.height(), 200);
+}
+
+TEST_F(TrierLesFromages, LaSourisRapetisseAvecLaPageSansSeDeformer) {
+  Ouvre(5);
+  fenetre->resize(340, 250);
+  QApplication::processEvents();
+  QWidget& souris = Le("PictureSouris");
+  const QImage image = souris.grab().toImage();
+  int gauche = image.width();
+  int droite = 0;
+  for (int y = 0; y < image.height(); ++y) {
+    for (int x = 0; x < image.width(); ++x) {
+      if (image.pixel(x, y) != image.pixel(0, image.height() - 1)) {
+        gauche = std::min(gauche, x);
+        droite = std::max(droite, x);
+      }
+    }
+  }
+  EXPECT_LT(souris.height(), 200);
+  EXPECT_NEAR(droite - gauche, souris.height() * 1.2, souris.height() * 0.25);
+  EXPECT_EQ(qobject_cast<QScrollArea*>(Le("Frame1(5)").parentWidget()->parentWidget())
+                ->verticalScrollBar()
+                ->maximum(),
+            0);
 }
 
 TEST_F(TrierLesFromages, ListeLesFromagesDuLaitDansLOrdreAlphabetique) {

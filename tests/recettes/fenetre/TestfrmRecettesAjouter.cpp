@@ -424,6 +424,17 @@ TEST_F(Ajouter, EntreeSurLImageDuWebLOuvreAussi) {
   EXPECT_THAT(b.association.cibles, testing::SizeIs(1));
 }
 
+TEST_F(Ajouter, LImageDuWebEstDansLaRangeeDesBoutonsEtAppelleLeClic) {
+  Ouvre(2);
+  const auto& web = Le<QPushButton>("PictureWeb");
+  const QWidget& valide = Le("cmdValideAjouter");
+  EXPECT_EQ(web.iconSize(), QSize(32, 32));
+  EXPECT_EQ(web.cursor().shape(), Qt::PointingHandCursor);
+  EXPECT_LE(std::abs(web.geometry().center().y() - valide.geometry().center().y()), 1);
+  EXPECT_LT(web.x(), valide.x());
+  EXPECT_LT(valide.x() - web.geometry().right(), web.width());
+}
+
 TEST_F(Ajouter, SansNavigateurLImageDuWebLeDit) {
   Ouvre(2);
   b.association.reponse = Ouverture::aucuneAssociation;

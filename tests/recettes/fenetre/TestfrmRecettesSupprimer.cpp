@@ -53,6 +53,19 @@ TEST_F(Supprimer, MontreCeQuiSeraitSupprimeEtChoisitLaRecette) {
   EXPECT_TRUE(aLeFocus("Option3(1)"));
 }
 
+TEST_F(Supprimer, LesValeursOntLaHauteurEtLeFondDesBoites) {
+  OuvreDesserts();
+  CliqueOnglet(*fenetre, 2);
+  const int boite = Le("txtSaisieNomRecette").height();
+  CliqueOnglet(*fenetre, 4);
+  for (const char* nom :
+       {"lblFamilleSupprimer", "lblFamilleRecetteSupprimer", "lblTitreRecetteSupprimer"}) {
+    EXPECT_EQ(Le(nom).height(), boite) << nom;
+    EXPECT_EQ(Le(nom).backgroundRole(), QPalette::Base) << nom;
+    EXPECT_EQ(Le(nom).foregroundRole(), QPalette::Text) << nom;
+  }
+}
+
 TEST_F(Supprimer, LaPremiereFamilleEtLaPremiereRecetteSontProtegees) {
   Ouvre(4);
   EXPECT_FALSE(Le("Option3(0)").isEnabled());
