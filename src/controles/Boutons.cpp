@@ -32,13 +32,13 @@ PiedBoutons::PiedBoutons() {
 
 QPushButton* PiedBoutons::Pose(QPushButton* bouton) {
   if (!std::exchange(aSaTouche_, true)) {
-    Raccourci(*parentWidget(),
-              {QKeySequence(Qt::CTRL | Qt::Key_Return), QKeySequence(Qt::CTRL | Qt::Key_Enter)},
-              false, [this] {
-                if (conclusion_ != nullptr && conclusion_->isVisible()) {
-                  conclusion_->click();
-                }
-              });
+    PoseRaccourci(*parentWidget(),
+                  {QKeySequence(Qt::CTRL | Qt::Key_Return), QKeySequence(Qt::CTRL | Qt::Key_Enter)},
+                  false, [this] {
+                    if (conclusion_ != nullptr && conclusion_->isVisible()) {
+                      conclusion_->click();
+                    }
+                  });
   }
   addWidget(bouton);
   return bouton;

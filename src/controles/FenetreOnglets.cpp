@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include <QEvent>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 
@@ -49,8 +50,9 @@ FenetreOnglets::FenetreOnglets(Module1& module, Cadre& cadre, const DescriptionF
   fond->addWidget(pile_, 1);
   connect(TabStrip1_, &QTabBar::currentChanged, this,
           [this](int indice) { ClicOnglet(indice + 1); });
-  Raccourci(*this, {QKeySequence(Qt::CTRL | Qt::Key_PageDown)}, true, [this] { VaAuVoisin(1); });
-  Raccourci(*this, {QKeySequence(Qt::CTRL | Qt::Key_PageUp)}, true, [this] { VaAuVoisin(-1); });
+  PoseRaccourci(*this, {QKeySequence(Qt::CTRL | Qt::Key_PageDown)}, true,
+                [this] { VaAuVoisin(1); });
+  PoseRaccourci(*this, {QKeySequence(Qt::CTRL | Qt::Key_PageUp)}, true, [this] { VaAuVoisin(-1); });
 }
 
 Onglet& FenetreOnglets::Page(int onglet) {

@@ -18,7 +18,7 @@ constexpr std::array<Sens, 2> deuxSens{{{Qt::Key_Up, -1}, {Qt::Key_Down, 1}}};
 
 void ParcourtAuClavier(QWidget& page, ComboListe& liste) {
   for (const Sens& sens : deuxSens) {
-    Raccourci(page, {QKeySequence(Qt::ALT | sens.touche)}, true, [&liste, pas = sens.pas] {
+    PoseRaccourci(page, {QKeySequence(Qt::ALT | sens.touche)}, true, [&liste, pas = sens.pas] {
       if (liste.isEnabled()) {
         liste.Choisit(liste.currentIndex() + pas);
       }

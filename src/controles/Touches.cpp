@@ -34,8 +34,8 @@ bool EstAltFleche(const QKeyEvent& touche) {
          (touche.modifiers() & ~Qt::KeypadModifier) == Qt::AltModifier;
 }
 
-void Raccourci(QWidget& zone, const QList<QKeySequence>& touches, bool repete,
-               const std::function<void()>& action) {
+void PoseRaccourci(QWidget& zone, const QList<QKeySequence>& touches, bool repete,
+                   const std::function<void()>& action) {
   auto* raccourci = new QShortcut(&zone);
   raccourci->setKeys(touches);
   raccourci->setContext(Qt::WidgetWithChildrenShortcut);

@@ -28,7 +28,7 @@ void EnvoieF1();
 
 /// From now on the keys run `action` wherever the focus is in `zone`, unless a control there wants
 /// them for itself. `repete`: again and again while they are held down.
-void Raccourci(QWidget& zone, const QList<QKeySequence>& touches, bool repete,
-               const std::function<void()>& action);
+void PoseRaccourci(QWidget& zone, const QList<QKeySequence>& touches, bool repete,
+                   const std::function<void()>& action);
 
 }  // namespace gastrelle

@@ -28,7 +28,7 @@ Chasses ChassesDe(const QFontMetrics& metrique) {
 
 /// The sum of its characters' widths: which of two titles is the longer one, without laying out
 /// thousands of them.
-int Chasse(const Chasses& chasses, const std::string& texte) {
+int LargeurEstimee(const Chasses& chasses, const std::string& texte) {
   return std::accumulate(texte.begin(), texte.end(), 0, [&](int somme, char c) {
     return somme + chasses[static_cast<unsigned char>(c)];
   });
@@ -50,12 +50,12 @@ void VueListe::Suit(ModeleListe& modele) {
 int VueListe::LargeurUtile() const {
   const Chasses chasses = ChassesDe(fontMetrics());
   int plusLongue = 0;
-  int laquelle = -1;
+  int laquelle = 0;
   int indice = 0;
   for (const EntreeListe& entree : modele_->entrees()) {
-    const int chasse = Chasse(chasses, entree.texte);
-    if (chasse > plusLongue) {
-      plusLongue = chasse;
+    const int largeur = LargeurEstimee(chasses, entree.texte);
+    if (largeur > plusLongue) {
+      plusLongue = largeur;
       laquelle = indice;
     }
     ++indice;

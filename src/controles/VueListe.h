@@ -15,7 +15,7 @@ class VueListe : public QListView {
 
   /// From now on the view shows these entries.
   void Suit(ModeleListe& modele);
-  /// The width that the row of the longest title asks for, in pixels.
+  /// The width that the row of the longest title asks for, in pixels; the list isn't empty.
   [[nodiscard]] int LargeurUtile() const;
 
   /// The row of an entry as it can be seen: a title that is longer ends in "…".

@@ -332,6 +332,7 @@ TEST_P(Fenetres, LaCleDUneLegendeMeneASonControle) {
   OuvreActive();
   for (int onglet = 1; onglet <= ligne.onglets(); ++onglet) {
     VaA(onglet);
+    int essayees = 0;
     for (const auto* legende : Page(onglet).findChildren<QLabel*>()) {
       const QKeySequence cle = QKeySequence::mnemonic(legende->text());
       QWidget* controle = legende->buddy();
@@ -339,10 +340,12 @@ TEST_P(Fenetres, LaCleDUneLegendeMeneASonControle) {
           !controle->isVisible()) {
         continue;
       }
+      ++essayees;
       BoutonAide(onglet).setFocus();
       Frappe(cle[0].key(), Qt::AltModifier);
       EXPECT_TRUE(controle->hasFocus()) << onglet << ' ' << legende->text().toStdString();
     }
+    EXPECT_GT(essayees, 0) << onglet;
   }
 }
 

@@ -1,5 +1,7 @@
 // The tab "Alpha" of the recipes window: the classification, and the way from there to a recipe.
 
+#include <ostream>
+
 #include <QListView>
 #include <QTest>
 
@@ -101,22 +103,6 @@ TEST_F(Alpha, EntreeSurUneRecetteLAffiche) {
   EXPECT_TRUE(aLeFocus("txtRecette"));
 }
 
-TEST_F(Alpha, LesRecettesDeLaFabriqueSeTrouventSansAccentNiLigature) {
-  b.GarnitDeFabrique(DOSSIER_PROGRAMME);
-  Ouvre(5);
-  const auto tape = [this](const char* mot) {
-    Selectionne(0);
-    QTest::qWait(1600);
-    Tape(liste(), mot);
-    return liste().currentIndex().data().toString();
-  };
-  EXPECT_EQ(tape("boeuf"), Fr("Bœuf aux carottes"));
-  EXPECT_EQ(tape("gateau"), Fr("Gâteau au yaourt"));
-  EXPECT_EQ(tape("crepes"), Fr("Crêpes de froment"));
-  EXPECT_EQ(tape("ile"), Fr("Îles flottantes"));
-  EXPECT_EQ(tape("huile"), Fr("Harengs et pommes à l'huile"));
-}
-
 TEST_F(Alpha, LaRecetteDejaAfficheeNeReliRien) {
   OuvreAlpha();
   Selectionne(1);
@@ -148,6 +134,32 @@ TEST_F(Alpha, UnFichierDisparuFinitLeProgramme) {
   b.dossier.Supprime("GLR2.DAT");
   CliqueOnglet(*fenetre, 5);
   AttendFinFatale();
+}
+
+struct Mot {
+  const char* tape;
+  const char* trouve;
+};
+
+void PrintTo(const Mot& mot, std::ostream* sortie) {
+  *sortie << mot.tape;
+}
+
+class AlphaDeFabrique : public Alpha, public testing::WithParamInterface<Mot> {};
+
+INSTANTIATE_TEST_SUITE_P(Mots, AlphaDeFabrique,
+                         testing::Values(Mot{"boeuf", "Bœuf aux carottes"},
+                                         Mot{"gateau", "Gâteau au yaourt"},
+                                         Mot{"crepes", "Crêpes de froment"},
+                                         Mot{"ile", "Îles flottantes"},
+                                         Mot{"huile", "Harengs et pommes à l'huile"}),
+                         testing::PrintToStringParamName());
+
+TEST_P(AlphaDeFabrique, UneRecetteSeTrouveSansAccentNiLigature) {
+  b.GarnitDeFabrique(DOSSIER_PROGRAMME);
+  Ouvre(5);
+  Tape(liste(), GetParam().tape);
+  EXPECT_EQ(liste().currentIndex().data().toString(), Fr(GetParam().trouve));
 }
 
 }  // namespace
