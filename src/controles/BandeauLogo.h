@@ -27,8 +27,8 @@ class BandeauLogo final : public QWidget {
   void PoseAnnonce(std::string_view texte) { annonce_->PoseTexte(texte); }
 
   /// Gives way where the page that it heads, laid out in a column, has a place of that size (in
-  /// pixels) and the band would leave its controls hardly more height than they need, or be too wide
-  /// itself; comes back with the room.
+  /// pixels) and the band would leave its controls hardly more height than they need, or be too
+  /// wide itself; comes back with the room.
   void TientDans(const QSize& place);
 
  private:

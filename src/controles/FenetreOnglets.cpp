@@ -4,6 +4,7 @@
 
 #include <QEvent>
 #include <QSignalBlocker>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 #include "controles/Defilement.h"
@@ -39,6 +40,9 @@ FenetreOnglets::FenetreOnglets(Module1& module, Cadre& cadre, const DescriptionF
   TabStrip1_->setAccessibleName(QStringLiteral("Onglets"));
   TabStrip1_->setExpanding(false);
   TabStrip1_->setDocumentMode(true);
+  for (auto* fleche : TabStrip1_->findChildren<QToolButton*>()) {
+    fleche->setFocusPolicy(Qt::NoFocus);  // in a narrow window it scrolls the tabs, by the mouse
+  }
   for (const DescriptionOnglet& onglet : jeu.onglets) {
     const int indice = TabStrip1_->addTab(QString::fromUtf16(onglet.titre));
     TabStrip1_->setTabToolTip(indice, QString::fromUtf16(onglet.infobulle));

@@ -1,27 +1,34 @@
 #include "controles/LecteurImage.h"
 
-#include <QFile>
 #include <QFileInfo>
-#include <QImageReader>
 
 namespace gastrelle {
 
-QImage LitImageReduite(const QString& fichier, const QSize& auPlus) {
-  if (!QFileInfo(fichier).isFile()) {
-    return {};
+LecteurImage::LecteurImage(const QString& fichier)
+    : ordinaire_(QFileInfo(fichier).isFile()), fichier_(fichier) {
+  if (ordinaire_) {
+    // A file, not a name: the reader would also try a name with other endings behind it.
+    lecteur_.setDevice(&fichier_);
+    lecteur_.setDecideFormatFromContent(true);
+    lecteur_.setAutoTransform(true);
   }
-  // A file, not a name: the reader would also try a name with other endings behind it.
-  QFile ouvert(fichier);
-  QImageReader lecteur(&ouvert);
-  lecteur.setDecideFormatFromContent(true);
-  lecteur.setAutoTransform(true);
-  const bool couchee = lecteur.transformation().testFlag(QImageIOHandler::TransformationRotate90);
-  const QSize taille = lecteur.size();
-  const QSize place = couchee ? auPlus.transposed() : auPlus;
-  if (taille.isValid() && (taille.width() > place.width() || taille.height() > place.height())) {
-    lecteur.setScaledSize(taille.scaled(place, Qt::KeepAspectRatio));
-  }
-  return lecteur.read();
+}
+
+QSize LecteurImage::Redresse(const QSize& taille) const {
+  const bool couchee = lecteur_.transformation().testFlag(QImageIOHandler::TransformationRotate90);
+  return couchee ? taille.transposed() : taille;
+}
+
+QSize LecteurImage::taille() const {
+  return ordinaire_ ? Redresse(lecteur_.size()) : QSize();
+}
+
+void LecteurImage::Met(const QSize& taille) {
+  lecteur_.setScaledSize(Redresse(taille));
+}
+
+QImage LecteurImage::Lit() {
+  return ordinaire_ ? lecteur_.read() : QImage();
 }
 
 }  // namespace gastrelle

@@ -2,7 +2,7 @@
 
 #include <QTextLayout>
 
-#include "controles/Couleurs.h"
+#include "controles/Teintes.h"
 #include "controles/TraitsTexte.h"
 
 namespace gastrelle {

@@ -42,4 +42,13 @@ QColor TonDiscret(const QColor& encre, const QColor& fond) {
   return Melange(encre, fond, part);
 }
 
+QColor Framboise(const QPalette& palette) {
+  constexpr QRgb surClair = 0xff9d2449;
+  constexpr QRgb surSombre = 0xffff9db3;
+  const QColor papier = palette.color(QPalette::Base);
+  const QColor claire = QColor::fromRgb(surSombre);
+  const QColor foncee = QColor::fromRgb(surClair);
+  return Contraste(claire, papier) > Contraste(foncee, papier) ? claire : foncee;
+}
+
 }  // namespace gastrelle

@@ -1,7 +1,8 @@
-// Colours made from those of the desktop's palette, light or dark, and how well they can be read.
+// Colours made for the desktop's palette, light or dark, and how well they can be read.
 #pragma once
 
 #include <QColor>
+#include <QPalette>
 
 namespace gastrelle {
 
@@ -16,5 +17,9 @@ inline constexpr double contrasteLisible = 4.5;
 /// ground as `contrasteLisible` allows, but no nearer than by a third. The text's colour itself
 /// where it hasn't that contrast.
 [[nodiscard]] QColor TonDiscret(const QColor& encre, const QColor& fond);
+
+/// The house's raspberry for letters on a palette's paper, `contrasteLisible` against it: light on a
+/// dark one.
+[[nodiscard]] QColor Framboise(const QPalette& palette);
 
 }  // namespace gastrelle

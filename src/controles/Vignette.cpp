@@ -1,5 +1,7 @@
 #include "controles/Vignette.h"
 
+#include <utility>
+
 #include <QMouseEvent>
 #include <QPainter>
 #include <QTimer>
@@ -47,7 +49,12 @@ void Vignette::Lit() {
     return;
   }
   const QSize place = QSize(largeurVignette, hauteurVignette) * devicePixelRatioF();
-  image_ = LitImageReduite(fichier_, place);
+  LecteurImage lecteur(fichier_);
+  const QSize taille = lecteur.taille();
+  if (taille.width() > place.width() || taille.height() > place.height()) {
+    lecteur.Met(taille.scaled(place, Qt::KeepAspectRatio));
+  }
+  image_ = lecteur.Lit();
   RegleVue();
   update();
 }

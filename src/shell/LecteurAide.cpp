@@ -4,7 +4,7 @@
 #include <QScrollBar>
 #include <QTextBlock>
 
-#include "controles/Couleurs.h"
+#include "controles/Teintes.h"
 
 namespace gastrelle {
 namespace {

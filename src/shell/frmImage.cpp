@@ -1,7 +1,6 @@
 #include "shell/frmImage.h"
 
 #include <QFileInfo>
-#include <QImageReader>
 #include <QMouseEvent>
 #include <QScreen>
 #include <QTimer>
@@ -9,6 +8,7 @@
 
 #include "controles/Conversion.h"
 #include "controles/Icones.h"
+#include "controles/LecteurImage.h"
 #include "controles/Touches.h"
 #include "data/Contextes.h"
 #include "data/ProceduresFichiers.h"
@@ -89,19 +89,13 @@ bool frmImage::TropGrande(const QSize& image) const {
 }
 
 void frmImage::Charge() {
-  // A file, not a name: the reader would also try a name with other endings behind it.
-  QFile fichier(QString::fromStdString(CheminSysteme(module_, chemin_)));
-  QImageReader lecteur(&fichier);
-  lecteur.setDecideFormatFromContent(true);
-  lecteur.setAutoTransform(true);
-  const bool couchee = lecteur.transformation().testFlag(QImageIOHandler::TransformationRotate90);
-  const auto redresse = [couchee](const QSize& t) { return couchee ? t.transposed() : t; };
+  LecteurImage lecteur(QString::fromStdString(CheminSysteme(module_, chemin_)));
   const QSize etiree = Verre() - QSize(0, 3 * HauteurBarre());
-  QSize naturelle = redresse(lecteur.size());
+  QSize naturelle = lecteur.taille();
   if (naturelle.isValid() && TropGrande(naturelle)) {
-    lecteur.setScaledSize(redresse(etiree));  // a huge photograph never takes its whole memory
+    lecteur.Met(etiree);
   }
-  const QImage image = lecteur.read();
+  const QImage image = lecteur.Lit();
   echec_ = image.isNull();
   if (echec_) {
     setAttribute(Qt::WA_DontShowOnScreen);  // its message alone is seen

@@ -14,8 +14,8 @@
 #include "controles/FeuilleTexte.h"
 #include "controles/LigneTexte.h"
 #include "controles/TailleLecture.h"
+#include "controles/Teintes.h"
 #include "data/Enregistrements.h"
-#include "doublures/Contraste.h"
 #include "doublures/Ecran.h"
 
 namespace gastrelle::essai {

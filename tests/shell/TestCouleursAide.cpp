@@ -9,9 +9,9 @@
 #include <gtest/gtest.h>
 
 #include "controles/Conversion.h"
+#include "controles/Teintes.h"
 #include "doublures/AideVue.h"
 #include "doublures/Bibliotheque.h"
-#include "doublures/Contraste.h"
 #include "shell/Aide.h"
 #include "shell/FichierAide.h"
 
