@@ -160,11 +160,12 @@ TYPED_TEST(Boites, RendentParCtrlZCeQuOnALeurAVide) {
   EXPECT_EQ(this->boite->Texte(), "soupe");
 }
 
-TYPED_TEST(Boites, RendentParCtrlZCeQueCtrlYLeurAReprisDeNouveau) {
+TYPED_TEST(Boites, SeRemplissentParCtrlZEtSeVidentDeNouveauParCtrlY) {
   this->Montre(sansLimite);
   Tape(*this->boite, "soupe");
   this->Vide();
   this->Annule();
+  ASSERT_EQ(this->boite->Texte(), "soupe");
   QTest::keyClick(this->boite.get(), Qt::Key_Y, Qt::ControlModifier);
   EXPECT_EQ(this->boite->Texte(), "");
 }
