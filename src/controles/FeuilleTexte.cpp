@@ -68,6 +68,9 @@ bool FeuilleTexte::event(QEvent* evenement) {
     PrendTaille();
     return true;
   }
+  if (evenement->type() == QEvent::Resize) {
+    RegleColonne();  // ahead of the text, which is then laid out once
+  }
   return SurLaMarge(*evenement) ? viewportEvent(evenement) : ZoneTexte::event(evenement);
 }
 
@@ -79,11 +82,6 @@ void FeuilleTexte::changeEvent(QEvent* evenement) {
   if (evenement->type() == QEvent::FontChange || evenement->type() == QEvent::StyleChange) {
     RegleColonne();
   }
-}
-
-void FeuilleTexte::resizeEvent(QResizeEvent* evenement) {
-  RegleColonne();
-  ZoneTexte::resizeEvent(evenement);
 }
 
 void FeuilleTexte::wheelEvent(QWheelEvent* evenement) {

@@ -14,7 +14,6 @@ class FeuilleTexte final : public ZoneTexte {
  protected:
   bool event(QEvent* evenement) override;
   void changeEvent(QEvent* evenement) override;
-  void resizeEvent(QResizeEvent* evenement) override;
   void wheelEvent(QWheelEvent* evenement) override;
 
  private:
