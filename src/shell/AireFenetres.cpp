@@ -11,10 +11,15 @@
 namespace gastrelle {
 
 AireFenetres::AireFenetres(QWidget* parent) : QMdiArea(parent) {
-  setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
-  setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
   // The last one to go uncovers no more than its own place.
   connect(this, &QMdiArea::subWindowActivated, viewport(), qOverload<>(&QWidget::update));
+}
+
+void AireFenetres::showEvent(QShowEvent* evenement) {
+  QMdiArea::showEvent(evenement);
+  // Earlier, bars that nothing needs would come and go, and each page be laid out three times.
+  setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+  setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
 }
 
 bool AireFenetres::EstVide() const {

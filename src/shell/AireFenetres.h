@@ -12,6 +12,7 @@ class AireFenetres final : public QMdiArea {
   explicit AireFenetres(QWidget* parent);
 
  protected:
+  void showEvent(QShowEvent* evenement) override;
   void paintEvent(QPaintEvent* evenement) override;
 
  private:
