@@ -2,8 +2,8 @@
 
 #include <utility>
 
-#include "controles/Focus.h"
 #include "controles/BoitesTexte.h"
+#include "controles/Focus.h"
 
 namespace gastrelle {
 

@@ -18,8 +18,8 @@ inline constexpr double contrasteLisible = 4.5;
 /// where it hasn't that contrast.
 [[nodiscard]] QColor TonDiscret(const QColor& encre, const QColor& fond);
 
-/// The house's raspberry for letters on a palette's paper, `contrasteLisible` against it: light on a
-/// dark one.
+/// The house's raspberry for letters on a palette's paper, `contrasteLisible` against it: light on
+/// a dark one.
 [[nodiscard]] QColor Framboise(const QPalette& palette);
 
 }  // namespace gastrelle

@@ -2,8 +2,8 @@
 // box for the text.
 #pragma once
 
-#include "controles/PageOnglet.h"
 #include "controles/BoitesTexte.h"
+#include "controles/PageOnglet.h"
 #include "fiches/frmFichesDescription.h"
 
 namespace gastrelle {

@@ -1,8 +1,8 @@
 // A page of the cheeses window that takes a cheese: boxes and lists of codes to fill in.
 #pragma once
 
-#include "controles/ComboListe.h"
 #include "controles/BoitesTexte.h"
+#include "controles/ComboListe.h"
 #include "fromages/CatalogueFromages.h"
 #include "fromages/frmFromagesPage.h"
 

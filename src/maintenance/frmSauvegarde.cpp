@@ -3,10 +3,10 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
+#include "controles/BoitesTexte.h"
 #include "controles/Boutons.h"
 #include "controles/Conversion.h"
 #include "controles/Touches.h"
-#include "controles/BoitesTexte.h"
 #include "maintenance/Sauvegarde.h"
 
 namespace gastrelle {

@@ -6,9 +6,9 @@
 #include <string>
 #include <vector>
 
+#include "controles/BoitesTexte.h"
 #include "controles/ComboListe.h"
 #include "controles/PageOnglet.h"
-#include "controles/BoitesTexte.h"
 #include "recettes/ChangementRecettes.h"
 
 namespace gastrelle {
