@@ -7,6 +7,7 @@
 #include "controles/BoitesTexte.h"
 #include "controles/Focus.h"
 #include "controles/TailleLecture.h"
+#include "controles/Touches.h"
 #include "data/ProceduresFichiers.h"
 
 namespace gastrelle {
@@ -15,8 +16,7 @@ FenetreEnfant::FenetreEnfant(Module1& module, Cadre& cadre, const DescriptionFen
     : module_(module), cadre_(cadre), description_(description) {
   setObjectName(QLatin1String(description.nom));
   setWindowTitle(QString::fromUtf16(description.titre));
-  BrancheTouchesLecture(*this);
-  BrancheTouchesLecture(*this);
+  PoseTouchesTaille(*this, AgranditLecture);
 }
 
 void FenetreEnfant::Active() {

@@ -1,13 +1,10 @@
 #include "controles/TailleLecture.h"
 
 #include <algorithm>
-#include <array>
-#include <functional>
 
 #include <QApplication>
 #include <QFontInfo>
 #include <QSettings>
-#include <QShortcut>
 
 #include "controles/Conversion.h"
 #include "data/Messages.h"
@@ -38,18 +35,6 @@ void Previent() {
   }
 }
 
-struct ToucheLecture {
-  const char* touche;
-  void (*action)();
-};
-
-// "+" stands on "=" on many keyboards, the digits above "à" on French ones.
-constexpr std::array<ToucheLecture, 5> touches{{{"Ctrl++", [] { AgranditLecture(1); }},
-                                                {"Ctrl+=", [] { AgranditLecture(1); }},
-                                                {"Ctrl+-", [] { AgranditLecture(-1); }},
-                                                {"Ctrl+0", [] { RetablitLecture(); }},
-                                                {"Ctrl+À", [] { RetablitLecture(); }}}};
-
 }  // namespace
 
 double TailleLecture() {
@@ -59,27 +44,18 @@ double TailleLecture() {
 }
 
 void AgranditLecture(int points) {
-  const double voulue = std::clamp(TailleLecture() + points, auMoins, auPlus);
-  Reglages().setValue(Reglage(), QString::number(voulue));
-  Previent();
-}
-
-void RetablitLecture() {
-  Reglages().remove(Reglage());
+  if (points == 0) {
+    Reglages().remove(Reglage());
+  } else {
+    const double voulue = std::clamp(TailleLecture() + points, auMoins, auPlus);
+    Reglages().setValue(Reglage(), QString::number(voulue));
+  }
   Previent();
 }
 
 QEvent::Type TailleChangee() {
   static const int type = QEvent::registerEventType();
   return static_cast<QEvent::Type>(type);
-}
-
-void BrancheTouchesLecture(QWidget& fenetre) {
-  for (const ToucheLecture& ligne : touches) {
-    auto* raccourci = new QShortcut(QKeySequence(QString::fromUtf8(ligne.touche)), &fenetre);
-    raccourci->setContext(Qt::WidgetWithChildrenShortcut);
-    QObject::connect(raccourci, &QShortcut::activated, &fenetre, ligne.action);
-  }
 }
 
 }  // namespace gastrelle

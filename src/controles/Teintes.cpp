@@ -16,21 +16,25 @@ double Luminance(const QColor& couleur) {
          0.0722 * Lineaire(couleur.blueF());
 }
 
-QColor Melange(const QColor& encre, const QColor& fond, int centiemes) {
-  constexpr int cent = 100;
-  const auto canal = [&](int un, int autre) {
-    return (un * (cent - centiemes) + autre * centiemes) / cent;
-  };
-  return {canal(encre.red(), fond.red()), canal(encre.green(), fond.green()),
-          canal(encre.blue(), fond.blue())};
-}
-
 }  // namespace
 
 double Contraste(const QColor& une, const QColor& autre) {
   constexpr double eblouissement = 0.05;
   const auto [sombre, claire] = std::minmax({Luminance(une), Luminance(autre)});
   return (claire + eblouissement) / (sombre + eblouissement);
+}
+
+QColor Melange(const QColor& une, const QColor& autre, int centiemes) {
+  constexpr int cent = 100;
+  const auto canal = [&](int a, int b) {
+    return (a * (cent - centiemes) + b * centiemes) / cent;
+  };
+  return {canal(une.red(), autre.red()), canal(une.green(), autre.green()),
+          canal(une.blue(), autre.blue())};
+}
+
+QColor PlusLisible(const QColor& une, const QColor& autre, const QColor& fond) {
+  return Contraste(une, fond) > Contraste(autre, fond) ? une : autre;
 }
 
 QColor TonDiscret(const QColor& encre, const QColor& fond) {
@@ -45,10 +49,8 @@ QColor TonDiscret(const QColor& encre, const QColor& fond) {
 QColor Framboise(const QPalette& palette) {
   constexpr QRgb surClair = 0xff9d2449;
   constexpr QRgb surSombre = 0xffff9db3;
-  const QColor papier = palette.color(QPalette::Base);
-  const QColor claire = QColor::fromRgb(surSombre);
-  const QColor foncee = QColor::fromRgb(surClair);
-  return Contraste(claire, papier) > Contraste(foncee, papier) ? claire : foncee;
+  return PlusLisible(QColor::fromRgb(surSombre), QColor::fromRgb(surClair),
+                     palette.color(QPalette::Base));
 }
 
 }  // namespace gastrelle

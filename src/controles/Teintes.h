@@ -13,6 +13,12 @@ inline constexpr double contrasteLisible = 4.5;
 /// (black and white).
 [[nodiscard]] double Contraste(const QColor& une, const QColor& autre);
 
+/// A tone between two colours: so many hundredths of the second one.
+[[nodiscard]] QColor Melange(const QColor& une, const QColor& autre, int centiemes);
+
+/// The one of two colours that reads better on a ground.
+[[nodiscard]] QColor PlusLisible(const QColor& une, const QColor& autre, const QColor& fond);
+
 /// A tone between a text's colour and its ground's, for what is said in passing: as near to the
 /// ground as `contrasteLisible` allows, but no nearer than by a third. The text's colour itself
 /// where it hasn't that contrast.

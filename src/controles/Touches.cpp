@@ -1,5 +1,8 @@
 #include "controles/Touches.h"
 
+#include <array>
+#include <utility>
+
 #include <QApplication>
 #include <QKeyEvent>
 #include <QShortcut>
@@ -41,6 +44,17 @@ void PoseRaccourci(QWidget& zone, const QList<QKeySequence>& touches, bool repet
   raccourci->setContext(Qt::WidgetWithChildrenShortcut);
   raccourci->setAutoRepeat(repete);
   QObject::connect(raccourci, &QShortcut::activated, &zone, action);
+}
+
+void PoseTouchesTaille(QWidget& zone, const std::function<void(int pas)>& action) {
+  // The plus shares its key with "=" on many keyboards, the 0 with "à" on French ones.
+  static const std::array<std::pair<int, QList<QKeySequence>>, 3> touches{
+      {{1, {QStringLiteral("Ctrl++"), QStringLiteral("Ctrl+=")}},
+       {-1, {QStringLiteral("Ctrl+-")}},
+       {0, {QStringLiteral("Ctrl+0"), QStringLiteral("Ctrl+À")}}}};
+  for (const auto& [pas, siennes] : touches) {
+    PoseRaccourci(zone, siennes, true, [action, pas = pas] { action(pas); });
+  }
 }
 
 }  // namespace gastrelle

@@ -1,5 +1,5 @@
 // The keys that several controls share: the help key, who sends it and what it opens; the keys that
-// belong to lists; the key that validates a page.
+// belong to lists; the key that validates a page; those that change the size of letters.
 #pragma once
 
 #include <functional>
@@ -30,5 +30,9 @@ void EnvoieF1();
 /// them for itself. `repete`: again and again while they are held down.
 void PoseRaccourci(QWidget& zone, const QList<QKeySequence>& touches, bool repete,
                    const std::function<void()>& action);
+
+/// The keys that enlarge, reduce and reset letters, wherever the focus is in `zone`. `action` gets
+/// the step: 1, -1, or 0 for the size that one began with.
+void PoseTouchesTaille(QWidget& zone, const std::function<void(int pas)>& action);
 
 }  // namespace gastrelle

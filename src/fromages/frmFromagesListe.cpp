@@ -2,6 +2,7 @@
 
 #include "controles/Focus.h"
 #include "controles/ParcoursListe.h"
+#include "controles/TitreEntier.h"
 #include "data/ProceduresFichiers.h"
 
 namespace gastrelle {
@@ -9,6 +10,7 @@ namespace gastrelle {
 frmFromagesListe::frmFromagesListe(const PlaceOnglet& place)
     : frmFromagesAffichage(place, {}),
       ComboFromages(new ComboListe(QStringLiteral("ComboFromages"), Ordre::alphabetique, this)) {
+  contenu().addWidget(new TitreEntier(*ComboFromages, this), 0, 0, 1, -1);
   DisposeSous(ComboFromages);
   boutons().Aide("cmdAideListe");
   ParcourtAuClavier(*this, *ComboFromages);

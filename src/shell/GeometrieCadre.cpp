@@ -100,8 +100,12 @@ void GeometrieCadre::Place(const QRect& place) {
 
 void GeometrieCadre::Ajuste() {
   const QWindow* fenetre = cadre_.windowHandle();
+  // As long as the window system hasn't told its border, the likely one stands.
+  if (fenetre == nullptr || fenetre->frameMargins().isNull()) {
+    return;
+  }
   const bool reprise = cadre_.size() != montree_.size();  // by the user or the window system
-  if (fenetre == nullptr || std::exchange(ajustee_, true) || reprise) {
+  if (std::exchange(ajustee_, true) || reprise) {
     return;
   }
   const QRect place = PlaceVisible(souhait_, fenetre->frameMargins(), Ecrans());

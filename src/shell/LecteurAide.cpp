@@ -12,22 +12,12 @@ namespace {
 /// Distance from the text to the edges of the page, in pixels.
 constexpr int margePage = 16;
 
+constexpr int partPapier = 90;  ///< of a tinted paragraph's ground, in hundredths
+
 QColor CouleurDesLiens(const QColor& papier) {
-  constexpr int milieu = 128;
   constexpr QRgb surClair = 0xff0b57a4;
   constexpr QRgb surSombre = 0xff9cc4ff;
-  return QColor::fromRgb(papier.lightness() < milieu ? surSombre : surClair);
-}
-
-/// The paper with a little of a colour in it.
-QColor Teinte(const QColor& papier, const QColor& couleur) {
-  constexpr int partPapier = 90;
-  constexpr int partCouleur = 10;
-  const auto canal = [](int a, int b) {
-    return (a * partPapier + b * partCouleur) / (partPapier + partCouleur);
-  };
-  return {canal(papier.red(), couleur.red()), canal(papier.green(), couleur.green()),
-          canal(papier.blue(), couleur.blue())};
+  return PlusLisible(QColor::fromRgb(surSombre), QColor::fromRgb(surClair), papier);
 }
 
 /// The style sheet names its colours; a palette gives them.
@@ -49,7 +39,7 @@ QList<QTextEdit::ExtraSelection> LecteurAide::MarqueDuParagraphe(const QString& 
     return {};
   }
   QTextCharFormat teinte;
-  teinte.setBackground(Teinte(palette().color(QPalette::Base), Framboise(palette())));
+  teinte.setBackground(Melange(Framboise(palette()), palette().color(QPalette::Base), partPapier));
   return {{paragraphe, teinte}};
 }
 

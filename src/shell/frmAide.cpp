@@ -24,16 +24,6 @@ constexpr int retrait = 14;
 constexpr int partsLargeur = 3;
 constexpr int roleSujet = Qt::UserRole;
 
-/// How a key changes the size of the page's letters, in points; 0 gives the first one back. Some
-/// stand for another on a French keyboard: its 0 is shifted, its plus as well.
-struct ToucheTaille {
-  const char* touche;
-  int pas;
-};
-
-constexpr std::array<ToucheTaille, 5> touchesTaille{
-    {{"Ctrl++", 1}, {"Ctrl+=", 1}, {"Ctrl+-", -1}, {"Ctrl+0", 0}, {"Ctrl+À", 0}}};
-
 }  // namespace
 
 frmAide::frmAide(const FichierAide& fichier)
@@ -176,10 +166,7 @@ void frmAide::Branche() {
     txtRecherche_->setFocus(Qt::ShortcutFocusReason);
     txtRecherche_->selectAll();
   });
-  for (const ToucheTaille& ligne : touchesTaille) {
-    raccourci(QKeySequence(QString::fromUtf8(ligne.touche)),
-              [this, &ligne] { txtPage_->Agrandit(ligne.pas); });
-  }
+  PoseTouchesTaille(*this, [this](int pas) { txtPage_->Agrandit(pas); });
 }
 
 void frmAide::Montre(const QString& sujet, const QStringList& paragraphes) {
@@ -229,8 +216,10 @@ void frmAide::VaAuVolet() {
   QListWidgetItem* premiere = lstResultats_->item(0);
   if (premiere->flags() != Qt::NoItemFlags) {
     lstResultats_->setFocus(Qt::OtherFocusReason);
+    if (lstResultats_->currentItem() == premiere) {
+      OuvreResultat(premiere);
+    }
     lstResultats_->setCurrentItem(premiere);
-    OuvreResultat(premiere);
   }
 }
 

@@ -15,6 +15,7 @@
 #include "controles/LigneTexte.h"
 #include "controles/TailleLecture.h"
 #include "controles/Teintes.h"
+#include "controles/Touches.h"
 #include "data/Enregistrements.h"
 #include "doublures/Ecran.h"
 
@@ -33,7 +34,7 @@ class Feuilles : public testing::Test {
  protected:
   Feuilles() {
     Reglages().clear();
-    BrancheTouchesLecture(fenetre);
+    PoseTouchesTaille(fenetre, AgranditLecture);
     auto* pile = new QVBoxLayout(&fenetre);
     for (FeuilleTexte** feuille : {&lecture, &saisie}) {
       *feuille = new FeuilleTexte("txtFeuille", sansLimite, &fenetre);

@@ -13,6 +13,7 @@
 #include "controles/BoitesTexte.h"
 #include "controles/Boutons.h"
 #include "controles/Legende.h"
+#include "controles/TailleLecture.h"
 #include "controles/ZoneTexte.h"
 #include "doublures/FenetreEssai.h"
 #include "doublures/LecteurEcran.h"
@@ -366,6 +367,19 @@ TEST_P(Fenetres, LaMoletteNeChangeNiOngletNiListeFermee) {
         EXPECT_EQ(bande->currentIndex() + 1, onglet);
       }
     }
+  }
+}
+
+TEST_P(Fenetres, LesTouchesDeTailleAgissentDOuQuOnSoit) {
+  OuvreActive();
+  const double avant = TailleLecture();
+  for (int onglet = 1; onglet <= ligne.onglets(); ++onglet) {
+    SurChaqueControle(onglet, [&](QWidget&) {
+      Frappe(Qt::Key_Plus, Qt::ControlModifier);
+      EXPECT_EQ(TailleLecture(), avant + 1);
+      Frappe(Qt::Key_0, Qt::ControlModifier);
+      EXPECT_EQ(TailleLecture(), avant);
+    });
   }
 }
 
