@@ -31,6 +31,7 @@ PiedBoutons::PiedBoutons() {
 }
 
 QPushButton* PiedBoutons::Pose(QPushButton* bouton) {
+  // Also where there is nothing to conclude: Return would otherwise press the button in focus.
   if (!std::exchange(aSaTouche_, true)) {
     PoseRaccourci(*parentWidget(),
                   {QKeySequence(Qt::CTRL | Qt::Key_Return), QKeySequence(Qt::CTRL | Qt::Key_Enter)},

@@ -67,7 +67,7 @@ void ComboListe::ElargitVue() {
       count() > maxVisibleItems() ? vue_->verticalScrollBar()->sizeHint().width() : 0;
   const int voulue = vue_->LargeurUtile() + ascenseur + 2 * vue_->frameWidth();
   const int cadre = 2 * style()->pixelMetric(QStyle::PM_DefaultFrameWidth, nullptr, this);
-  vue_->setMinimumWidth(std::min(voulue, screen()->availableGeometry().width() - cadre));
+  vue_->setMinimumWidth(std::min(voulue, screen()->availableGeometry().width() - 2 * cadre));
 }
 
 void ComboListe::showPopup() {

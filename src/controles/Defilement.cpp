@@ -25,6 +25,13 @@ Defilement::Defilement(QWidget* page, QWidget* parent) : QScrollArea(parent) {
           [this](const QWidget* quitte, const QWidget* recoit) { SuitFocus(quitte, recoit); });
 }
 
+bool Defilement::eventFilter(QObject* objet, QEvent* evenement) {
+  if (objet == widget() && evenement->type() == QEvent::LayoutRequest && surTaille) {
+    surTaille(size());
+  }
+  return QScrollArea::eventFilter(objet, evenement);
+}
+
 void Defilement::resizeEvent(QResizeEvent* evenement) {
   if (surTaille) {
     surTaille(size());

@@ -16,11 +16,12 @@ class Defilement final : public QScrollArea {
   /// Takes the page over.
   Defilement(QWidget* page, QWidget* parent);
 
-  /// Runs with the size of the place, in pixels, whenever that changes, before the page is laid out
-  /// in it.
+  /// Runs with the size of the place, in pixels, whenever that or what the page needs changes,
+  /// before the page is laid out in it.
   std::function<void(const QSize& taille)> surTaille;
 
  protected:
+  bool eventFilter(QObject* objet, QEvent* evenement) override;
   void resizeEvent(QResizeEvent* evenement) override;
   void wheelEvent(QWheelEvent* evenement) override;
   void keyPressEvent(QKeyEvent* touche) override;

@@ -15,7 +15,7 @@ namespace gastrelle {
 namespace {
 
 /// A page in a place of its own, where it scrolls.
-QWidget* Loge(Onglet& page, QWidget* parent) {
+QWidget* MetEnPlace(Onglet& page, QWidget* parent) {
   auto* place = new Defilement(&page, parent);
   place->surTaille = [&page](const QSize& taille) { page.TientDans(taille); };
   return place;
@@ -65,7 +65,7 @@ Onglet& FenetreOnglets::Page(int onglet) {
   if (page == nullptr) {
     const DescriptionOnglet& sienne = jeu_.onglets[rang];
     page = &sienne.cree({*this, onglet, sienne, description().logo, jeu_.ligneDuLogo});
-    pile_->addWidget(Loge(*page, pile_));
+    pile_->addWidget(MetEnPlace(*page, pile_));
   }
   return *page;
 }

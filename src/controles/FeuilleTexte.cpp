@@ -66,7 +66,10 @@ bool FeuilleTexte::SurLaMarge(const QEvent& evenement) {
 bool FeuilleTexte::event(QEvent* evenement) {
   if (evenement->type() == TailleChangee()) {
     PrendTaille();
-    return true;
+  }
+  if (const auto* menu = dynamic_cast<QContextMenuEvent*>(evenement);
+      menu != nullptr && !viewport()->geometry().contains(menu->pos())) {
+    return viewportEvent(evenement);
   }
   if (evenement->type() == QEvent::Resize) {
     RegleColonne();  // ahead of the text, which is then laid out once

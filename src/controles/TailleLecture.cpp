@@ -1,6 +1,7 @@
 #include "controles/TailleLecture.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include <QApplication>
 #include <QFontInfo>
@@ -16,7 +17,7 @@ constexpr double auDessusDuSysteme = 2;
 constexpr double auMoins = 7;
 constexpr double auPlus = 40;
 
-QString Reglage() {
+QString CleTaille() {
   return QStringLiteral("Settings/TailleLecture");
 }
 
@@ -39,16 +40,17 @@ void Previent() {
 
 double TailleLecture() {
   bool nombre = false;
-  const double choisie = Reglages().value(Reglage()).toString().toDouble(&nombre);
-  return nombre ? std::clamp(choisie, auMoins, auPlus) : TailleOrdinaire();
+  const double choisie = Reglages().value(CleTaille()).toString().toDouble(&nombre);
+  return nombre && std::isfinite(choisie) ? std::clamp(choisie, auMoins, auPlus)
+                                          : TailleOrdinaire();
 }
 
 void AgranditLecture(int points) {
   if (points == 0) {
-    Reglages().remove(Reglage());
+    Reglages().remove(CleTaille());
   } else {
     const double voulue = std::clamp(TailleLecture() + points, auMoins, auPlus);
-    Reglages().setValue(Reglage(), QString::number(voulue));
+    Reglages().setValue(CleTaille(), QString::number(voulue));
   }
   Previent();
 }

@@ -104,7 +104,7 @@ QString DeControle(char32_t code) {
 
 /// The letter with those of its accents that the code page holds together, up to the first one that
 /// it doesn't. Nothing if the letter itself is lost.
-std::optional<QString> LettreDeBase(const std::u32string& grappe) {
+std::optional<QString> BaseDeGrappe(const std::u32string& grappe) {
   if (!QChar::isLetter(grappe.front())) {
     return std::nullopt;
   }
@@ -139,7 +139,7 @@ QString EcritGrappe(const std::u32string& grappe, bool& perte) {
   if (forme != grappe) {
     return Ecrit(forme, perte);
   }
-  if (const auto lettre = LettreDeBase(grappe)) {
+  if (const auto lettre = BaseDeGrappe(grappe)) {
     return *lettre;
   }
   if (QChar::isSpace(code)) {

@@ -24,6 +24,7 @@ Vignette::Vignette(const QString& nom, const QString& lisible, QWidget* page)
   setToolTip(QStringLiteral("Cliquez sur l'image pour l'agrandir"));
   setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Ignored);
   setFixedWidth(largeurVignette);
+  setMouseTracking(true);
   page->installEventFilter(this);
   hide();
 }
@@ -82,7 +83,11 @@ void Vignette::paintEvent(QPaintEvent* /*evenement*/) {
   QPainter peintre(this);
   peintre.setRenderHint(QPainter::SmoothPixmapTransform);
   peintre.drawImage(Cadre(), image_);
-  setCursor(Qt::PointingHandCursor);
+}
+
+void Vignette::mouseMoveEvent(QMouseEvent* evenement) {
+  const bool dessus = Cadre().contains(evenement->position().toPoint());
+  setCursor(dessus ? Qt::PointingHandCursor : Qt::ArrowCursor);
 }
 
 void Vignette::mousePressEvent(QMouseEvent* evenement) {

@@ -26,6 +26,7 @@ class Vignette final : public QWidget {
  protected:
   bool eventFilter(QObject* objet, QEvent* evenement) override;
   void paintEvent(QPaintEvent* evenement) override;
+  void mouseMoveEvent(QMouseEvent* evenement) override;
   void mousePressEvent(QMouseEvent* evenement) override;
   void mouseReleaseEvent(QMouseEvent* evenement) override;
 

@@ -8,6 +8,7 @@
 #include <QTextCursor>
 
 #include "controles/Conversion.h"
+#include "controles/Touches.h"
 #include "controles/Transcription.h"
 
 namespace gastrelle {
@@ -87,6 +88,10 @@ void ZoneTexte::RendLectureSeule() {
 void ZoneTexte::keyPressEvent(QKeyEvent* touche) {
   // What is going to be corrected is a step of its own, so that it is undone with its correction.
   const QString texte = touche->text();
+  if (RefuseLettre(*touche)) {
+    QApplication::beep();
+    return;
+  }
   const bool pleine = limite_ > 0 && LongueurRangee(*document()) >= limite_;
   const bool corrigee =
       !texte.isEmpty() && (!SeRange(texte) || (pleine && texte.front().isPrint()));
@@ -123,7 +128,7 @@ void ZoneTexte::CorrigePassage(int debut, int saisie, int fin) {
       Transcrit(QString(avant).replace(QChar::ParagraphSeparator, QChar(u'\n')));
   const QString entier =
       QString(transcription.texte).replace(QChar(u'\n'), QChar::ParagraphSeparator);
-  const QString garde = Tenue(avant, entier, saisie - debut);
+  const QString garde = CeQuiTient(avant, entier, saisie - debut);
   if (transcription.perte || garde != entier) {
     QApplication::beep();
   }
@@ -135,14 +140,26 @@ void ZoneTexte::CorrigePassage(int debut, int saisie, int fin) {
   }
 }
 
-QString ZoneTexte::Tenue(const QString& avant, QString garde, qsizetype acquis) const {
+QString ZoneTexte::CeQuiTient(const QString& avant, QString garde, qsizetype acquis) const {
   if (limite_ > 0) {
-    const qsizetype autour = LongueurRangee(*document()) - LongueurRangee(avant);
-    while (garde.size() > acquis && autour + LongueurRangee(garde) > limite_) {
-      garde.chop(1);
+    qsizetype trop =
+        LongueurRangee(*document()) - LongueurRangee(avant) + LongueurRangee(garde) - limite_;
+    qsizetype fin = garde.size();
+    while (trop > 0 && fin > acquis) {
+      --fin;
+      trop -= garde.at(fin) == QChar::ParagraphSeparator ? 2 : 1;
     }
+    garde.truncate(fin);
   }
   return garde;
+}
+
+bool ZoneTexte::RefuseLettre(const QKeyEvent& touche) const {
+  const QString texte = touche.text();
+  const bool lettre = EstTouchePlaine(touche) && !texte.isEmpty() && texte.front().isPrint() &&
+                      !texte.front().isMark();  // an accent joins the letter before it
+  return lettre && !isReadOnly() && !textCursor().hasSelection() && limite_ > 0 &&
+         LongueurRangee(*document()) >= limite_;
 }
 
 }  // namespace gastrelle

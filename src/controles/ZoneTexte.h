@@ -42,7 +42,9 @@ class ZoneTexte : public QPlainTextEdit {
   /// on: what stands before is never cut.
   void CorrigePassage(int debut, int saisie, int fin);
   /// The characters of `garde` that fit in the place of `avant`, of which the first `acquis` stay.
-  [[nodiscard]] QString Tenue(const QString& avant, QString garde, qsizetype acquis) const;
+  /// True for a letter that a full box can't take.
+  [[nodiscard]] bool RefuseLettre(const QKeyEvent& touche) const;
+  [[nodiscard]] QString CeQuiTient(const QString& avant, QString garde, qsizetype acquis) const;
 
   int limite_;
   Reprise reprise_;

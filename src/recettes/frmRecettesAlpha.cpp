@@ -28,7 +28,7 @@ void frmRecettesAlpha::Entre() {
   lstRecettesTri_->Vide();
   Opere(module(), [&] { lstRecettesTri_->Ajoute(ToutesRecettes(module())); });
   lblNbreRecette_->setText(
-      QStringLiteral("Les %1 &recettes").arg(lstRecettesTri_->entrees().size()));
+      QStringLiteral("Les %1 recettes").arg(lstRecettesTri_->entrees().size()));
   lstRecettesTri_->Choisit(0);
   DonneFocus(lstRecettesTri_);
 }

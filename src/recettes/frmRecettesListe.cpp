@@ -16,7 +16,7 @@ frmRecettesListe::frmRecettesListe(const PlaceOnglet& place)
       ComboFamilles(new ComboListe(QStringLiteral("ComboFamilles"), Ordre::alphabetique, this)),
       ComboRecettes(new ComboListe(QStringLiteral("ComboRecettes"), Ordre::alphabetique, this)),
       txtRecette(new FeuilleTexte(QStringLiteral("txtRecette"), limiteTexte, this)),
-      lblLaRecette(Legende(QStringLiteral("La recet&te"), txtRecette)),
+      lblLaRecette(Legende(QStringLiteral("La recette"), txtRecette)),
       cmdCameraListe(
           boutons().Ajoute("cmdCameraListe", u"I&mage", "camera",
                            u"Cliquez sur ce bouton pour voir l'image associée à la recette",

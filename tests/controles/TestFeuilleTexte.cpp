@@ -150,8 +150,11 @@ TEST_F(Feuilles, RetiennentLaTailleChoisieEtOublientCelleDuSysteme) {
 }
 
 TEST_F(Feuilles, RestentLisiblesQuoiQuOnDemande) {
-  for (const auto& [reglage, taille] :
-       {std::pair{"abc", systeme + 2}, {"0", 7.0}, {"-3", 7.0}, {"4000", 40.0}}) {
+  for (const auto& [reglage, taille] : {std::pair{"abc", systeme + 2},
+                                        {"0", 7.0},
+                                        {"-3", 7.0},
+                                        {"4000", 40.0},
+                                        {"nan", systeme + 2}}) {
     Reglages().setValue("Settings/TailleLecture", reglage);
     EXPECT_EQ(Points(FeuilleTexte("txtNouvelle", sansLimite)), taille) << reglage;
   }
@@ -197,6 +200,16 @@ TEST_F(Feuilles, VontJusquAuBordOuLaLigneFinit) {
   QTest::mouseClick(saisie, Qt::LeftButton, {}, bord);
   EXPECT_TRUE(saisie->hasFocus());
   EXPECT_GT(saisie->textCursor().position(), 0);
+}
+
+TEST_F(Feuilles, OuvrentLeurMenuJusquAuBord) {
+  fenetre.resize(2000, 300);
+  QApplication::processEvents();
+  const QPoint bord(lecture->width() - 60, lecture->height() / 2);
+  QContextMenuEvent clicDroit(QContextMenuEvent::Mouse, bord, lecture->mapToGlobal(bord));
+  QApplication::sendEvent(lecture, &clicDroit);
+  ASSERT_NE(QApplication::activePopupWidget(), nullptr);
+  QApplication::activePopupWidget()->close();
 }
 
 TEST_F(Feuilles, NeTournentPasEnRondAuBoutDeLaMolette) {

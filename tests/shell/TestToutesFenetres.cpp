@@ -331,9 +331,9 @@ TEST_P(Fenetres, LesClesDAccesDUnePageSontUniquesEtLaissentLesMenusDuCadre) {
 
 TEST_P(Fenetres, LaCleDUneLegendeMeneASonControle) {
   OuvreActive();
+  int essayees = 0;
   for (int onglet = 1; onglet <= ligne.onglets(); ++onglet) {
     VaA(onglet);
-    int essayees = 0;
     for (const auto* legende : Page(onglet).findChildren<QLabel*>()) {
       const QKeySequence cle = QKeySequence::mnemonic(legende->text());
       QWidget* controle = legende->buddy();
@@ -346,8 +346,8 @@ TEST_P(Fenetres, LaCleDUneLegendeMeneASonControle) {
       Frappe(cle[0].key(), Qt::AltModifier);
       EXPECT_TRUE(controle->hasFocus()) << onglet << ' ' << legende->text().toStdString();
     }
-    EXPECT_GT(essayees, 0) << onglet;
   }
+  EXPECT_GE(essayees, ligne.onglets());
 }
 
 TEST_P(Fenetres, LaMoletteNeChangeNiOngletNiListeFermee) {
