@@ -2,8 +2,6 @@
 // the file and one plain sort of its names, in turns in the same run.
 
 #include <algorithm>
-#include <cstdio>
-#include <exception>
 #include <fcntl.h>
 #include <stdexcept>
 #include <string>
@@ -16,6 +14,7 @@
 #include <QKeyEvent>
 
 #include "GrandeBibliotheque.h"
+#include "Lancement.h"
 #include "Releve.h"
 #include "controles/ComboListe.h"
 #include "data/Main.h"
@@ -25,7 +24,6 @@
 #include "plateforme/Disque.h"
 #include "recettes/LectureRecettes.h"
 #include "recettes/frmRecettes.h"
-#include "shell/Application.h"
 
 namespace gastrelle::bancs {
 namespace {
@@ -168,16 +166,5 @@ int Mesure(essai::Bibliotheque& b) {
 }  // namespace gastrelle::bancs
 
 int main(int argc, char** argv) {
-  qputenv("QT_QPA_PLATFORM", "offscreen");
-  qputenv("QT_LOGGING_RULES", "default.warning=false");
-  try {
-    gastrelle::essai::Bibliotheque bibliotheque;
-    qputenv("XDG_RUNTIME_DIR", bibliotheque.dossier.chemin().c_str());
-    const gastrelle::Application application(argc, argv, bibliotheque.messages,
-                                             bibliotheque.pointeur, bibliotheque.processus);
-    return gastrelle::bancs::Mesure(bibliotheque);
-  } catch (const std::exception& erreur) {
-    std::fprintf(stderr, "%s\n", erreur.what());
-    return 2;
-  }
+  return gastrelle::bancs::Lance(argc, argv, gastrelle::bancs::Mesure);
 }

@@ -2,20 +2,17 @@
 // with the same text, in turns in the same run: from the key to the painted letter.
 
 #include <array>
-#include <cstdio>
-#include <exception>
 #include <string>
 
 #include <QApplication>
 #include <QKeyEvent>
 #include <QPlainTextEdit>
 
+#include "Lancement.h"
 #include "Releve.h"
 #include "controles/Conversion.h"
 #include "controles/FeuilleTexte.h"
 #include "data/Limites.h"
-#include "doublures/Bibliotheque.h"
-#include "shell/Application.h"
 
 namespace gastrelle::bancs {
 namespace {
@@ -86,24 +83,15 @@ bool Mesure(const std::string& nom, const std::string& texte) {
   return Annonce("la même, contre 16 ms", mesure, seize, 1) && legere;
 }
 
+int MesureTout(const essai::Bibliotheque& /*bibliotheque*/) {
+  const bool recettes = Mesure("30 000 lettres de recettes", LongTexte());
+  const bool ligne = Mesure("une ligne de 30 000 lettres", LongueLigne());
+  return recettes && ligne ? 0 : 1;
+}
+
 }  // namespace
 }  // namespace gastrelle::bancs
 
 int main(int argc, char** argv) {
-  qputenv("QT_QPA_PLATFORM", "offscreen");
-  qputenv("QT_LOGGING_RULES", "default.warning=false");
-  try {
-    gastrelle::essai::Bibliotheque bibliotheque;
-    qputenv("XDG_RUNTIME_DIR", bibliotheque.dossier.chemin().c_str());
-    const gastrelle::Application application(argc, argv, bibliotheque.messages,
-                                             bibliotheque.pointeur, bibliotheque.processus);
-    const bool recettes =
-        gastrelle::bancs::Mesure("30 000 lettres de recettes", gastrelle::bancs::LongTexte());
-    const bool ligne =
-        gastrelle::bancs::Mesure("une ligne de 30 000 lettres", gastrelle::bancs::LongueLigne());
-    return recettes && ligne ? 0 : 1;
-  } catch (const std::exception& erreur) {
-    std::fprintf(stderr, "%s\n", erreur.what());
-    return 2;
-  }
+  return gastrelle::bancs::Lance(argc, argv, gastrelle::bancs::MesureTout);
 }

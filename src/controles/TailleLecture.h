@@ -10,8 +10,8 @@ namespace gastrelle {
 /// In points: the one that the user has chosen, or a little more than the system's.
 double TailleLecture();
 
-/// Larger (or smaller, if negative) by so many points, and remembered; 0: back to a little more than
-/// the system's, and the choice is forgotten. Every widget is then sent `TailleChangee()`.
+/// Larger (or smaller, if negative) by so many points, and remembered; 0: back to a little more
+/// than the system's, and the choice is forgotten. Every widget is then sent `TailleChangee()`.
 void AgranditLecture(int points);
 
 /// The event that tells of a new size.

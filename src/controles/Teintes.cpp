@@ -26,9 +26,7 @@ double Contraste(const QColor& une, const QColor& autre) {
 
 QColor Melange(const QColor& une, const QColor& autre, int centiemes) {
   constexpr int cent = 100;
-  const auto canal = [&](int a, int b) {
-    return (a * (cent - centiemes) + b * centiemes) / cent;
-  };
+  const auto canal = [&](int a, int b) { return (a * (cent - centiemes) + b * centiemes) / cent; };
   return {canal(une.red(), autre.red()), canal(une.green(), autre.green()),
           canal(une.blue(), autre.blue())};
 }
