@@ -11,7 +11,7 @@
 namespace gastrelle {
 namespace {
 
-constexpr int largeurPage = 900;
+constexpr QSize pageAuMoins{900, 320};
 constexpr int largeurVignette = 360;
 constexpr int hauteurVignette = 480;
 
@@ -42,7 +42,8 @@ void Vignette::Montre(const QString& fichier) {
 }
 
 void Vignette::RegleVue() {
-  setVisible((aLire_ || !image_.isNull()) && page_->width() >= largeurPage);
+  const bool place = page_->size().boundedTo(pageAuMoins) == pageAuMoins;
+  setVisible(place && (aLire_ || !image_.isNull()));
 }
 
 void Vignette::Lit() {

@@ -1,4 +1,4 @@
-// A picture beside a text, where its page is wide enough: its proportions kept, read once the text
+// A picture beside a text, where its page is large enough: its proportions kept, read once the text
 // is on the screen, larger at a click.
 #pragma once
 
@@ -11,7 +11,7 @@ namespace gastrelle {
 
 class Vignette final : public QWidget {
  public:
-  /// `page`: the widget whose width decides whether there is room.
+  /// `page`: the widget whose size decides whether there is room.
   Vignette(const QString& nom, const QString& lisible, QWidget* page);
 
   /// Runs on a click on the picture.

@@ -66,13 +66,15 @@ TEST_F(Vignettes, NAgrandissentPasUnePetiteImage) {
   EXPECT_EQ(Peinte(), QRect(130, 0, 100, 50));
 }
 
-TEST_F(Vignettes, NeSeMontrentQueSurUnePageAssezLarge) {
+TEST_F(Vignettes, NeSeMontrentQueSurUnePageAssezGrande) {
   vignette.Montre(Dessine(100, 50));
   EXPECT_TRUE(vignette.isVisible());
   page.resize(899, 600);
   EXPECT_FALSE(vignette.isVisible());
-  page.resize(900, 600);
+  page.resize(900, 320);
   EXPECT_TRUE(vignette.isVisible());
+  page.resize(1000, 319);
+  EXPECT_FALSE(vignette.isVisible());
 }
 
 TEST_F(Vignettes, RendentLaPlaceSansImage) {
