@@ -25,6 +25,11 @@ Defilement::Defilement(QWidget* page, QWidget* parent) : QScrollArea(parent) {
           [this](const QWidget* quitte, const QWidget* recoit) { SuitFocus(quitte, recoit); });
 }
 
+Defilement::~Defilement() {
+  // On its way out the page takes the focus along, which no one has to follow any more.
+  disconnect(qApp, nullptr, this, nullptr);
+}
+
 bool Defilement::eventFilter(QObject* objet, QEvent* evenement) {
   if (objet == widget() && evenement->type() == QEvent::LayoutRequest && surTaille) {
     surTaille(size());

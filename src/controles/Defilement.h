@@ -15,6 +15,9 @@ class Defilement final : public QScrollArea {
  public:
   /// Takes the page over.
   Defilement(QWidget* page, QWidget* parent);
+  Defilement(const Defilement&) = delete;
+  Defilement& operator=(const Defilement&) = delete;
+  ~Defilement() override;
 
   /// Runs with the size of the place, in pixels, whenever that or what the page needs changes,
   /// before the page is laid out in it.
