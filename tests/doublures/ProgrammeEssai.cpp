@@ -1,0 +1,133 @@
+#include "doublures/ProgrammeEssai.h"
+
+#include <filesystem>
+#include <grp.h>
+#include <unistd.h>
+
+#include <QFile>
+#include <QTest>
+
+namespace gastrelle::essai {
+namespace {
+
+constexpr unsigned personne = 65534;  // the user and the group to whom nothing belongs
+
+void DevientPersonne() {
+  if (::geteuid() == 0 &&
+      (::setgroups(0, nullptr) != 0 || ::setgid(personne) != 0 || ::setuid(personne) != 0)) {
+    ::_exit(126);
+  }
+}
+
+}  // namespace
+
+void ProgrammeEssai::SetUp() {
+  if (!EcranVirtuel::Possible()) {
+    GTEST_SKIP() << "il manque Xvfb ou xdotool";
+  }
+  std::filesystem::copy(PROGRAMME, b.dossier.chemin() / "gastrelle");
+  b.dossier.Ecrit("GLPREF.DAT", Octets(RecPreferences{0, 0, 1}));
+  ecran.emplace();
+  environnement = ecran->environnement;
+  environnement.insert("QT_PLUGIN_PATH", DOSSIER_GREFFONS);
+  environnement.insert("QT_QPA_GENERIC_PLUGINS", "temoin");
+  environnement.insert("XDG_CONFIG_HOME", QString::fromStdString(reglages.chemin().string()));
+  environnement.insert("XDG_RUNTIME_DIR", QString::fromStdString(reglages.chemin().string()));
+}
+
+void ProgrammeEssai::Lance(QProcess& processus) {
+  processus.setProcessEnvironment(environnement);
+  processus.setStandardErrorFile(QProcess::nullDevice());
+  if (!dossierCourant.empty()) {
+    processus.setWorkingDirectory(QString::fromStdString(dossierCourant));
+  }
+  if (avantDepart || simpleUsager_) {
+    processus.setChildProcessModifier([prepare = avantDepart, simple = simpleUsager_] {
+      if (prepare) {
+        prepare();
+      }
+      if (simple) {
+        DevientPersonne();
+      }
+    });
+  }
+  processus.start(QString::fromStdString((b.dossier.chemin() / "gastrelle").string()), {});
+  ASSERT_TRUE(processus.waitForStarted(patience));
+}
+
+QString ProgrammeEssai::Outil(const QStringList& arguments) {
+  QProcess outil;
+  outil.setProcessEnvironment(ecran->environnement);
+  outil.setStandardErrorFile(QProcess::nullDevice());
+  outil.start("xdotool", arguments);
+  outil.waitForFinished(patience);
+  return QString::fromUtf8(outil.readAllStandardOutput()).trimmed();
+}
+
+QString ProgrammeEssai::FenetreDe(const QProcess& processus) {
+  QString fenetre;
+  static_cast<void>(QTest::qWaitFor(
+      [&] {
+        fenetre = Outil({"search", "--all", "--onlyvisible", "--pid",
+                         QString::number(processus.processId()), "--name", "."});
+        return !fenetre.isEmpty() || processus.state() == QProcess::NotRunning;
+      },
+      patience));
+  EXPECT_FALSE(fenetre.isEmpty());
+  EXPECT_FALSE(fenetre.contains(u'\n')) << fenetre.toStdString();
+  return fenetre;
+}
+
+int ProgrammeEssai::FinitPar(const char* touche, QProcess& processus, const QString& fenetre) {
+  EXPECT_TRUE(QTest::qWaitFor(
+      [&] {
+        Outil({"windowfocus", "--sync", fenetre});
+        Outil({"key", touche});
+        return processus.state() == QProcess::NotRunning || processus.waitForFinished(500);
+      },
+      patience));
+  EXPECT_EQ(processus.exitStatus(), QProcess::NormalExit);
+  return processus.exitCode();
+}
+
+QStringList ProgrammeEssai::Messages(QProcess& processus) {
+  static const QString tete = QStringLiteral("message: ");
+  dit_ += QString::fromUtf8(processus.readAllStandardOutput());
+  QStringList messages;
+  for (const QString& ligne : dit_.split(u'\n', Qt::SkipEmptyParts)) {
+    if (ligne.startsWith(tete)) {
+      messages << ligne.mid(tete.size());
+    }
+  }
+  return messages;
+}
+
+QString ProgrammeEssai::TroisLignes(const char* fichier) const {
+  return QStringLiteral("Fichier | %1 | non trouvé ou incompatible ou erreur disque.")
+      .arg(QString::fromStdString((b.dossier.chemin() / fichier).string()));
+}
+
+qint64 ProgrammeEssai::PlusDeMemoire(const QProcess& processus) {
+  QFile etat(QStringLiteral("/proc/%1/status").arg(processus.processId()));
+  EXPECT_TRUE(etat.open(QIODevice::ReadOnly));
+  for (const QByteArray& ligne : etat.readAll().split('\n')) {
+    if (ligne.startsWith("VmHWM:")) {
+      constexpr qint64 kilo = 1024;
+      return ligne.simplified().split(' ').at(1).toLongLong() * kilo;
+    }
+  }
+  ADD_FAILURE() << "le système ne dit pas la mémoire";
+  return 0;
+}
+
+void ProgrammeEssai::EnSimpleUsager() {
+  simpleUsager_ = true;
+  std::filesystem::permissions(reglages.chemin(), std::filesystem::perms::all);
+}
+
+void ProgrammeEssai::Droits(const char* nom, unsigned droits) const {
+  std::filesystem::permissions(b.dossier.chemin() / nom,
+                               static_cast<std::filesystem::perms>(droits));
+}
+
+}  // namespace gastrelle::essai
