@@ -2,19 +2,47 @@
 
 #include "data/Main.h"
 
+#include <cstdio>
+#include <cstdlib>
 #include <filesystem>
 #include <memory>
 
 #include "controles/Boites.h"
 #include "controles/Conversion.h"
 #include "plateforme/Clavier.h"
+#include "plateforme/Contraintes.h"
 #include "plateforme/Disque.h"
 #include "plateforme/Instance.h"
 #include "shell/Application.h"
 #include "shell/frmMain.h"
 
+namespace gastrelle {
+namespace {
+
+/// Files that the program holds open, with its data, a dialog and what the desktop's libraries
+/// take, and then some.
+constexpr int fichiersUtiles = 64;
+/// What a single message takes of them.
+constexpr int fichiersDUnMessage = 32;
+
+constexpr const char* tropPeuDeFichiers =
+    "Le système ne laisse pas ouvrir assez de fichiers à la fois : Gastrelle ne peut pas démarrer. "
+    "Relevez cette limite (« ulimit -n 256 »), puis recommencez.";
+
+}  // namespace
+}  // namespace gastrelle
+
 int main(int argc, char** argv) {
   using namespace gastrelle;
+  GarnitEntreesSorties();
+  ChangeSignalEnErreur();
+  const int fichiers = FichiersPermis(fichiersUtiles);
+  if (fichiers < fichiersUtiles) {
+    std::fprintf(stderr, "%s\n", tropPeuDeFichiers);
+  }
+  if (fichiers < fichiersDUnMessage) {
+    return EXIT_FAILURE;  // the toolkit itself would give up half way
+  }
   MessagesEcran messages;
   PointeurEcran pointeur;
   HorlogeSysteme horloge;
@@ -22,6 +50,10 @@ int main(int argc, char** argv) {
   SonSysteme son;
   ProcessusSysteme processus;
   const Application application(argc, argv, messages, pointeur, processus);
+  if (fichiers < fichiersUtiles) {
+    messages.Informe(DepuisQt(QString::fromUtf8(tropPeuDeFichiers)), Icone::critique);
+    return EXIT_FAILURE;
+  }
   ClavierSysteme clavier;
 
   const std::filesystem::path dossier = QApplication::applicationDirPath().toStdU16String();

@@ -6,10 +6,12 @@
 
 namespace gastrelle {
 
-/// Stays open until the process ends.
+/// Stays open until the process ends. Looked for in the folders of the system alone, whatever the
+/// environment says.
 class BibliothequeSysteme {
  public:
-  explicit BibliothequeSysteme(const char* nom) : poignee_(::dlopen(nom, RTLD_NOW | RTLD_LOCAL)) {}
+  /// `nom`: that of its file, with the version of its interface ("libgio-2.0.so.0").
+  explicit BibliothequeSysteme(const char* nom);
 
   /// Sets a function by its name, also one of the libraries that came along. What isn't there makes
   /// the whole library absent.
@@ -22,7 +24,7 @@ class BibliothequeSysteme {
   [[nodiscard]] bool presente() const { return poignee_ != nullptr && complete_; }
 
  private:
-  void* poignee_;
+  void* poignee_ = nullptr;
   bool complete_ = true;
 };
 

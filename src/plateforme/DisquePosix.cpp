@@ -1,8 +1,10 @@
 #include <cerrno>
 #include <cstdio>
 #include <fcntl.h>
+#include <string>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <utility>
 #include <vector>
 
 #include "plateforme/Disque.h"
@@ -28,9 +30,15 @@ class Descripteur {
       Echoue();
     }
   }
+  Descripteur(Descripteur&& autre) noexcept : numero_(std::exchange(autre.numero_, -1)) {}
   Descripteur(const Descripteur&) = delete;
   Descripteur& operator=(const Descripteur&) = delete;
-  ~Descripteur() { ::close(numero_); }
+  Descripteur& operator=(Descripteur&&) = delete;
+  ~Descripteur() {
+    if (numero_ >= 0) {
+      ::close(numero_);
+    }
+  }
   [[nodiscard]] int numero() const { return numero_; }
 
  private:
@@ -52,6 +60,22 @@ mode_t Nature(const std::filesystem::path& chemin) {
 bool EstFichier(const std::filesystem::path& chemin) {
   const mode_t nature = Nature(chemin);
   return nature != 0 && nature != S_IFDIR;
+}
+
+constexpr mode_t droitsOrdinaires = 0666;  // less what the user's mask takes away
+constexpr mode_t tousLesDroits = 0777;
+
+/// Opens a file without waiting for anybody, and refuses what isn't a regular file: a pipe, a
+/// socket or a device would keep the program waiting, or take what is written to it elsewhere.
+Descripteur OuvreOrdinaire(const std::filesystem::path& chemin, int maniere) {
+  Descripteur ouvert(
+      ::open(chemin.c_str(), maniere | O_CLOEXEC | O_NONBLOCK | O_NOCTTY, droitsOrdinaires));
+  struct stat etat {};
+  Exige(::fstat(ouvert.numero(), &etat));
+  if (!S_ISREG(etat.st_mode)) {
+    throw ErreurExecution(Panne::accesFichier);
+  }
+  return ouvert;
 }
 
 /// Reads at a byte until the buffer is full or the file ends. Returns the number of bytes read.
@@ -88,7 +112,7 @@ void EcritOctets(const Descripteur& fichier, std::int64_t decalage, std::string_
 class FichierPosix final : public Fichier {
  public:
   explicit FichierPosix(const std::filesystem::path& chemin)
-      : descripteur_(::open(chemin.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0666)) {}
+      : descripteur_(OuvreOrdinaire(chemin, O_RDWR | O_CREAT)) {}
 
   std::size_t Lit(std::int64_t decalage, std::span<char> tampon) override {
     return LitOctets(descripteur_, decalage, tampon);
@@ -108,10 +132,64 @@ class FichierPosix final : public Fichier {
   Descripteur descripteur_;
 };
 
-/// Copies a file; the copy is on the disk, not on its way there, when this returns.
-void CopieOctets(const std::filesystem::path& source, const std::filesystem::path& cible) {
-  const Descripteur lecture(::open(source.c_str(), O_RDONLY | O_CLOEXEC));
-  const Descripteur ecriture(::open(cible.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666));
+/// A file that is to take the place of another: made anew beside it, under a name that nobody has,
+/// with the rights of the one that it replaces. What hasn't replaced anything goes with the object.
+class Remplacant {
+ public:
+  explicit Remplacant(const std::filesystem::path& cible) : cible_(cible), descripteur_(Cree()) {}
+  Remplacant(const Remplacant&) = delete;
+  Remplacant& operator=(const Remplacant&) = delete;
+  ~Remplacant() {
+    if (!chemin_.empty()) {
+      ::unlink(chemin_.c_str());
+    }
+  }
+
+  [[nodiscard]] const Descripteur& descripteur() const { return descripteur_; }
+
+  /// Takes the other's place; by then it is on the disk, not on its way there.
+  void Remplace() {
+    Exige(::fsync(descripteur_.numero()));
+    Exige(std::rename(chemin_.c_str(), cible_.c_str()));
+    chemin_.clear();
+  }
+
+ private:
+  Descripteur Cree() {
+    struct stat ancien {};
+    if (::stat(cible_.c_str(), &ancien) != 0 || !S_ISREG(ancien.st_mode)) {
+      return CreeAvec(droitsOrdinaires);
+    }
+    const mode_t droits = ancien.st_mode & tousLesDroits;
+    Descripteur cree = CreeAvec(droits);
+    // Where the file system has no rights to give, the copy is worth more than they are.
+    static_cast<void>(::fchmod(cree.numero(), droits));
+    return cree;
+  }
+
+  /// "~" stands behind the name, and a number where somebody has that one: a file, or a link that
+  /// leads elsewhere.
+  Descripteur CreeAvec(mode_t droits) {
+    constexpr int essais = 100;
+    int numero = -1;
+    for (int n = 1; n <= essais && numero < 0; ++n) {
+      chemin_ = cible_;
+      chemin_ += n == 1 ? "~" : "~" + std::to_string(n);
+      numero = ::open(chemin_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, droits);
+      if (numero < 0 && errno != EEXIST) {
+        break;
+      }
+    }
+    return Descripteur(numero);
+  }
+
+  const std::filesystem::path& cible_;
+  std::filesystem::path chemin_;
+  Descripteur descripteur_;
+};
+
+/// Copies all bytes of a file into another.
+void CopieOctets(const Descripteur& lecture, const Descripteur& ecriture) {
   constexpr std::size_t tailleBloc = 1U << 18U;
   std::vector<char> bloc(tailleBloc);
   std::int64_t decalage = 0;
@@ -119,7 +197,6 @@ void CopieOctets(const std::filesystem::path& source, const std::filesystem::pat
     EcritOctets(ecriture, decalage, {bloc.data(), lus});
     decalage += static_cast<std::int64_t>(lus);
   }
-  Exige(::fsync(ecriture.numero()));
 }
 
 }  // namespace
@@ -150,14 +227,11 @@ std::unique_ptr<Fichier> Disque::Ouvre(const std::string& nom) {
 
 void Disque::Copie(const std::string& source, const std::string& cible) {
   // The old file stands until the new one is whole.
-  const std::filesystem::path provisoire = Chemin(cible + "~");
-  try {
-    CopieOctets(Chemin(source), provisoire);
-    Exige(std::rename(provisoire.c_str(), Chemin(cible).c_str()));
-  } catch (const ErreurExecution&) {
-    ::unlink(provisoire.c_str());
-    throw;
-  }
+  const Descripteur lecture = OuvreOrdinaire(Chemin(source), O_RDONLY);
+  const std::filesystem::path ancienne = Chemin(cible);
+  Remplacant nouvelle(ancienne);
+  CopieOctets(lecture, nouvelle.descripteur());
+  nouvelle.Remplace();
 }
 
 void Disque::Supprime(const std::string& nom) {

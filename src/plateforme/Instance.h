@@ -1,5 +1,5 @@
-// One running program for each folder. The lock lies on the folder itself, leaves no file behind
-// and goes with the process, however it ends.
+// One running program for each folder. The locks leave no file behind and go with the process,
+// however it ends.
 #pragma once
 
 #include <filesystem>
@@ -7,7 +7,7 @@
 
 namespace gastrelle {
 
-/// Holds the lock of a folder for as long as it lives.
+/// Holds the locks of a folder for as long as it lives.
 class Instance {
  public:
   Instance() = default;
@@ -15,8 +15,8 @@ class Instance {
   Instance& operator=(const Instance&) = delete;
   virtual ~Instance() = default;
 
-  /// Takes the lock; null if another running program holds it. A folder that can't be locked at all
-  /// (no such service on its file system) counts as free.
+  /// Takes the locks; null if another running program holds one of them, or if the system gives
+  /// none: without a lock nobody knows who else is there.
   static std::unique_ptr<Instance> Prend(const std::filesystem::path& dossier);
 };
 

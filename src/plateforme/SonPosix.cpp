@@ -1,4 +1,5 @@
 #include <canberra.h>
+#include <system_error>
 
 #include "plateforme/BibliothequePosix.h"
 #include "plateforme/Son.h"
@@ -38,6 +39,10 @@ SonSysteme::~SonSysteme() {
 }
 
 void SonSysteme::Joue(const std::filesystem::path& fichier) {
+  std::error_code sansMot;
+  if (!std::filesystem::is_regular_file(fichier, sansMot)) {
+    return;  // the library would wait for what comes out of a pipe
+  }
   const Canberra& canberra = Canberra::Prend();
   if (!canberra.bibliotheque.presente()) {
     return;

@@ -10,6 +10,9 @@
 namespace gastrelle::essai {
 namespace {
 
+/// Under which a process keeps what it has printed.
+constexpr const char* proprieteDit = "dit";
+
 constexpr unsigned personne = 65534;  // the user and the group to whom nothing belongs
 
 void DevientPersonne() {
@@ -37,7 +40,8 @@ void ProgrammeEssai::SetUp() {
 
 void ProgrammeEssai::Lance(QProcess& processus) {
   processus.setProcessEnvironment(environnement);
-  processus.setStandardErrorFile(QProcess::nullDevice());
+  processus.setStandardErrorFile(QString::fromStdString((reglages.chemin() / "erreurs").string()),
+                                 QIODevice::Append);
   if (!dossierCourant.empty()) {
     processus.setWorkingDirectory(QString::fromStdString(dossierCourant));
   }
@@ -64,18 +68,19 @@ QString ProgrammeEssai::Outil(const QStringList& arguments) {
   return QString::fromUtf8(outil.readAllStandardOutput()).trimmed();
 }
 
-QString ProgrammeEssai::FenetreDe(const QProcess& processus) {
-  QString fenetre;
+QString ProgrammeEssai::FenetreDe(const QProcess& processus, const QString& dessous) {
+  QStringList fenetres;
   static_cast<void>(QTest::qWaitFor(
       [&] {
-        fenetre = Outil({"search", "--all", "--onlyvisible", "--pid",
-                         QString::number(processus.processId()), "--name", "."});
-        return !fenetre.isEmpty() || processus.state() == QProcess::NotRunning;
+        fenetres = Outil({"search", "--all", "--onlyvisible", "--pid",
+                          QString::number(processus.processId()), "--name", "."})
+                       .split(u'\n', Qt::SkipEmptyParts);
+        fenetres.removeAll(dessous);
+        return !fenetres.isEmpty() || processus.state() == QProcess::NotRunning;
       },
       patience));
-  EXPECT_FALSE(fenetre.isEmpty());
-  EXPECT_FALSE(fenetre.contains(u'\n')) << fenetre.toStdString();
-  return fenetre;
+  EXPECT_EQ(fenetres.size(), 1) << fenetres.join(u' ').toStdString();
+  return fenetres.value(0);
 }
 
 int ProgrammeEssai::FinitPar(const char* touche, QProcess& processus, const QString& fenetre) {
@@ -90,21 +95,23 @@ int ProgrammeEssai::FinitPar(const char* touche, QProcess& processus, const QStr
   return processus.exitCode();
 }
 
-QStringList ProgrammeEssai::Messages(QProcess& processus) {
+std::vector<std::string> ProgrammeEssai::Messages(QProcess& processus) {
   static const QString tete = QStringLiteral("message: ");
-  dit_ += QString::fromUtf8(processus.readAllStandardOutput());
-  QStringList messages;
-  for (const QString& ligne : dit_.split(u'\n', Qt::SkipEmptyParts)) {
+  const QString dit = processus.property(proprieteDit).toString() +
+                      QString::fromUtf8(processus.readAllStandardOutput());
+  processus.setProperty(proprieteDit, dit);
+  std::vector<std::string> messages;
+  for (const QString& ligne : dit.split(u'\n', Qt::SkipEmptyParts)) {
     if (ligne.startsWith(tete)) {
-      messages << ligne.mid(tete.size());
+      messages.push_back(ligne.mid(tete.size()).toStdString());
     }
   }
   return messages;
 }
 
-QString ProgrammeEssai::TroisLignes(const char* fichier) const {
-  return QStringLiteral("Fichier | %1 | non trouvé ou incompatible ou erreur disque.")
-      .arg(QString::fromStdString((b.dossier.chemin() / fichier).string()));
+std::string ProgrammeEssai::TroisLignes(const char* fichier) const {
+  return "Fichier | " + (b.dossier.chemin() / fichier).string() +
+         " | non trouvé ou incompatible ou erreur disque.";
 }
 
 qint64 ProgrammeEssai::PlusDeMemoire(const QProcess& processus) {
@@ -123,6 +130,12 @@ qint64 ProgrammeEssai::PlusDeMemoire(const QProcess& processus) {
 void ProgrammeEssai::EnSimpleUsager() {
   simpleUsager_ = true;
   std::filesystem::permissions(reglages.chemin(), std::filesystem::perms::all);
+}
+
+void ProgrammeEssai::Remplace(const char* nom, const Entree& entree) const {
+  const std::filesystem::path chemin = b.dossier.chemin() / nom;
+  std::filesystem::remove(chemin);
+  entree.pose(chemin);
 }
 
 void ProgrammeEssai::Droits(const char* nom, unsigned droits) const {

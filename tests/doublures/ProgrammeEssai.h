@@ -5,6 +5,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include <QProcess>
 #include <QStringList>
@@ -12,6 +13,7 @@
 
 #include "doublures/Bibliotheque.h"
 #include "doublures/EcranVirtuel.h"
+#include "doublures/Entrees.h"
 
 namespace gastrelle::essai {
 
@@ -26,21 +28,26 @@ class ProgrammeEssai : public testing::Test {
   void Lance(QProcess& processus);
   /// An instruction of xdotool on the display, and what it prints.
   QString Outil(const QStringList& arguments);
-  /// The one window that a program shows, as the display knows it, once it is there.
-  QString FenetreDe(const QProcess& processus);
+  /// The one window that a program shows, as the display knows it, once it is there; `dessous`: a
+  /// window of the same program that was there before.
+  QString FenetreDe(const QProcess& processus, const QString& dessous = {});
   /// Presses a key in a program's window, again as long as it may not have been ready for it, until
   /// the program ends; its status.
   int FinitPar(const char* touche, QProcess& processus, const QString& fenetre);
   /// The texts of all messages that a program has shown, their lines joined by " | ".
-  QStringList Messages(QProcess& processus);
+  std::vector<std::string> Messages(QProcess& processus);
+  /// What the programs of the test have written to the standard error.
+  [[nodiscard]] std::string Erreurs() const { return reglages.Lit("erreurs"); }
   /// The message of a file that can't be used.
-  [[nodiscard]] QString TroisLignes(const char* fichier) const;
+  [[nodiscard]] std::string TroisLignes(const char* fichier) const;
   /// Most memory that a running program has held, in bytes.
   [[nodiscard]] static qint64 PlusDeMemoire(const QProcess& processus);
 
   /// From now on the program runs as a user who isn't the folder's owner, who may do with files and
   /// folders what everybody may. Its settings lie in a place of their own.
   void EnSimpleUsager();
+  /// Lays something else under a name of the folder, whatever is there.
+  void Remplace(const char* nom, const Entree& entree) const;
   /// Rights of a file of the folder, or of the folder itself (an empty name), as chmod takes them.
   void Droits(const char* nom, unsigned droits) const;
 
@@ -57,7 +64,6 @@ class ProgrammeEssai : public testing::Test {
   QProcessEnvironment environnement;
 
  private:
-  QString dit_;
   bool simpleUsager_ = false;
 };
 

@@ -2,10 +2,10 @@
 
 #include <csignal>
 #include <set>
-#include <sys/resource.h>
 
 #include <gtest/gtest.h>
 
+#include "doublures/Limites.h"
 #include "doublures/Pannes.h"
 #include "plateforme/Disque.h"
 #include "plateforme/ErreurExecution.h"
@@ -38,19 +38,17 @@ class DisqueReel : public testing::Test {
 class DisqueEtroit {
  public:
   explicit DisqueEtroit(rlim_t octets) : signal_(std::signal(SIGXFSZ, SIG_IGN)) {
-    ::getrlimit(RLIMIT_FSIZE, &avant_);
-    const rlimit etroite{octets, avant_.rlim_max};
-    ::setrlimit(RLIMIT_FSIZE, &etroite);
+    PoseLimite(RLIMIT_FSIZE, octets, avant_.rlim_max);
   }
   DisqueEtroit(const DisqueEtroit&) = delete;
   DisqueEtroit& operator=(const DisqueEtroit&) = delete;
   ~DisqueEtroit() {
-    ::setrlimit(RLIMIT_FSIZE, &avant_);
+    PoseLimite(RLIMIT_FSIZE, avant_.rlim_cur, avant_.rlim_max);
     std::signal(SIGXFSZ, signal_);
   }
 
  private:
-  rlimit avant_{};
+  const rlimit avant_ = LimiteEnVigueur(RLIMIT_FSIZE);
   void (*signal_)(int);
 };
 

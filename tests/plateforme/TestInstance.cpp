@@ -1,5 +1,7 @@
 // One running program for each folder.
 
+#include <fcntl.h>
+#include <sys/file.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -55,9 +57,27 @@ TEST(Instance, FinitAvecLeProcessusMemeTueNet) {
   EXPECT_NE(Instance::Prend(dossier.chemin()), nullptr);
 }
 
-TEST(Instance, TientPourLibreUnDossierQuiNeSeVerrouillePas) {
+TEST(Instance, RefuseUnDossierDontPersonneNePeutSavoirQuiLOccupe) {
   const DossierEssai dossier;
-  EXPECT_NE(Instance::Prend(dossier.chemin() / "absent"), nullptr);
+  EXPECT_EQ(Instance::Prend(dossier.chemin() / "absent"), nullptr);
+}
+
+TEST(Instance, NeGardeRienDUnRefus) {
+  const DossierEssai dossier;
+  auto premier = Instance::Prend(dossier.chemin());
+  EXPECT_EQ(Instance::Prend(dossier.chemin()), nullptr);
+  premier.reset();
+  EXPECT_NE(Instance::Prend(dossier.chemin()), nullptr);
+}
+
+/// The folder's own lock, as another program would hold it.
+TEST(Instance, RespecteLeVerrouDUnAutreSurLeDossier) {
+  const DossierEssai dossier;
+  const int numero = ::open(dossier.chemin().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+  ASSERT_EQ(::flock(numero, LOCK_EX | LOCK_NB), 0);
+  EXPECT_EQ(Instance::Prend(dossier.chemin()), nullptr);
+  ::close(numero);
+  EXPECT_NE(Instance::Prend(dossier.chemin()), nullptr);
 }
 
 }  // namespace

@@ -1,9 +1,13 @@
 // The program as its user starts and leaves it.
 
+#include <gmock/gmock.h>
+
 #include "doublures/ProgrammeEssai.h"
 
 namespace gastrelle::essai {
 namespace {
+
+using testing::ElementsAre;
 
 using Programme = ProgrammeEssai;
 
@@ -14,7 +18,7 @@ TEST_F(Programme, SaFenetrePorteLeTitreUneFoisEtSeQuitteSansErreur) {
   EXPECT_TRUE(b.dossier.A("GLR1.DAT"));
   EXPECT_TRUE(b.dossier.A("IMAGE"));
   EXPECT_EQ(FinitPar("ctrl+q", programme, fenetre), 0);
-  EXPECT_EQ(Messages(programme), QStringList());
+  EXPECT_THAT(Messages(programme), ElementsAre());
 }
 
 TEST_F(Programme, UnFichierALaPlaceDuDossierDesImagesLArrete) {
@@ -24,8 +28,8 @@ TEST_F(Programme, UnFichierALaPlaceDuDossierDesImagesLArrete) {
   EXPECT_EQ(Outil({"getwindowname", message}), "Gastrelle 2005");
   EXPECT_EQ(programme.state(), QProcess::Running);
   EXPECT_EQ(FinitPar("Return", programme, message), 1);
-  EXPECT_EQ(Messages(programme),
-            QStringList("Erreur d'exécution '75' : Erreur d'accès au fichier"));
+  EXPECT_THAT(Messages(programme),
+              ElementsAre("Erreur d'exécution '75' : Erreur d'accès au fichier"));
   EXPECT_EQ(b.dossier.Lit("IMAGE"), "x");
 }
 
@@ -35,7 +39,7 @@ TEST_F(Programme, UnSecondNeSOuvrePasACoteDuPremier) {
   QProcess second;
   Lance(second);
   FinitPar("Return", second, FenetreDe(second));
-  EXPECT_EQ(Messages(second), QStringList("Cette application est déjà en cours"));
+  EXPECT_THAT(Messages(second), ElementsAre("Cette application est déjà en cours"));
   EXPECT_EQ(programme.state(), QProcess::Running);
 }
 
@@ -45,7 +49,7 @@ TEST_F(Programme, UnSimpleUsagerLOuvreAussi) {
   Droits("GLPREF.DAT", 0666);
   Lance(programme);
   EXPECT_EQ(FinitPar("ctrl+q", programme, FenetreDe(programme)), 0);
-  EXPECT_EQ(Messages(programme), QStringList());
+  EXPECT_THAT(Messages(programme), ElementsAre());
 }
 
 }  // namespace
