@@ -126,6 +126,16 @@ TEST_F(ProgrammeHostile, SesBibliothequesNeViennentPasDuDossierCourant) {
   EXPECT_FALSE(piege.A("sautee"));
 }
 
+TEST_F(ProgrammeHostile, UnReglageDeLaBoiteAOutilsDansSonDossierNeLArretePas) {
+  b.dossier.Ecrit("qt.conf", "[Paths]\nPlugins=/nulle/part\n");
+  OuvreEtQuitte();
+  for (const Entree& entree : EntreesSpeciales()) {
+    SCOPED_TRACE(entree.nom);
+    Remplace("qt.conf", entree);
+    OuvreEtQuitte();
+  }
+}
+
 TEST_F(ProgrammeHostile, UnDossierOuLOnEntreSansLeListerNeSOuvreQuUneFois) {
   b.Demarre();
   EnSimpleUsager();
