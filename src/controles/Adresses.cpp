@@ -3,11 +3,11 @@
 #include <AdressesConstruites.h>
 #include <array>
 
-#include <QSettings>
 #include <QUrl>
 
-#include "controles/Conversion.h"
+#include "controles/Reglages.h"
 #include "data/ProceduresFichiers.h"
+#include "data/Texte1252.h"
 
 namespace gastrelle {
 namespace {
@@ -54,9 +54,8 @@ void Ouvre(Module1& module, const LigneLien& ligne, const QString& cible) {
 }  // namespace
 
 QString Adresse(Lien lien) {
-  const QSettings reglages(QSettings::UserScope, VersQt(titreApplication));
   const QString reglee =
-      reglages.value(QStringLiteral("Adresses/") + QLatin1String(Ligne(lien).reglage)).toString();
+      Reglages().Texte(QStringLiteral("Adresses/") + QLatin1String(Ligne(lien).reglage));
   return reglee.isEmpty() ? QString::fromUtf16(Ligne(lien).adresse) : reglee;
 }
 

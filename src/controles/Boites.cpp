@@ -1,6 +1,7 @@
 #include "controles/Boites.h"
 
 #include <array>
+#include <string>
 #include <utility>
 
 #include <QApplication>
@@ -19,10 +20,23 @@ constexpr std::array<std::pair<Icone, QMessageBox::Icon>, 4> icones{{
     {Icone::critique, QMessageBox::Critical},
 }};
 
+/// A message that is longer than any path of a system makes it has lost its middle: it would be
+/// higher than the screen, its button below.
+std::string Abrege(std::string_view texte) {
+  constexpr std::size_t moitie = 2500;
+  if (texte.size() <= 2 * moitie) {
+    return std::string(texte);
+  }
+  std::string abrege(texte.substr(0, moitie));
+  abrege += "…"_1252;
+  abrege += texte.substr(texte.size() - moitie);
+  return abrege;
+}
+
 void Prepare(QMessageBox& boite, std::string_view texte, Icone icone, std::string_view titre) {
   boite.setWindowTitle(VersQt(titre));
   boite.setTextFormat(Qt::PlainText);
-  boite.setText(VersEcran(texte));
+  boite.setText(VersEcran(Abrege(texte)));
   for (const auto& [notre, sienne] : icones) {
     if (notre == icone) {
       boite.setIcon(sienne);

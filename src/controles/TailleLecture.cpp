@@ -5,10 +5,8 @@
 
 #include <QApplication>
 #include <QFontInfo>
-#include <QSettings>
 
-#include "controles/Conversion.h"
-#include "data/Messages.h"
+#include "controles/Reglages.h"
 
 namespace gastrelle {
 namespace {
@@ -19,10 +17,6 @@ constexpr double auPlus = 40;
 
 QString CleTaille() {
   return QStringLiteral("Settings/TailleLecture");
-}
-
-QSettings Reglages() {
-  return {QSettings::UserScope, VersQt(titreApplication)};
 }
 
 double TailleOrdinaire() {
@@ -40,17 +34,17 @@ void Previent() {
 
 double TailleLecture() {
   bool nombre = false;
-  const double choisie = Reglages().value(CleTaille()).toString().toDouble(&nombre);
+  const double choisie = Reglages().Texte(CleTaille()).toDouble(&nombre);
   return nombre && std::isfinite(choisie) ? std::clamp(choisie, auMoins, auPlus)
                                           : TailleOrdinaire();
 }
 
 void AgranditLecture(int points) {
   if (points == 0) {
-    Reglages().remove(CleTaille());
+    Reglages().Oublie(CleTaille());
   } else {
     const double voulue = std::clamp(TailleLecture() + points, auMoins, auPlus);
-    Reglages().setValue(CleTaille(), QString::number(voulue));
+    Reglages().Ecrit(CleTaille(), QString::number(voulue));
   }
   Previent();
 }

@@ -8,8 +8,10 @@
 #include <QTextCursor>
 
 #include "controles/Conversion.h"
+#include "controles/MemoireTexte.h"
 #include "controles/Touches.h"
 #include "controles/Transcription.h"
+#include "plateforme/ErreurExecution.h"
 
 namespace gastrelle {
 namespace {
@@ -60,9 +62,21 @@ ZoneTexte::ZoneTexte(const QString& nom, int limite, QWidget* parent)
 }
 
 void ZoneTexte::PoseTexte(std::string_view texte) {
+  if (MemoireDeTexte(texte) > plafondMemoireTexte) {
+    throw ErreurExecution(Panne::memoireInsuffisante);
+  }
   parCode_ = true;
+  CoupeLesLignes(TientUnMotSansFin(texte) ? QTextOption::WrapAnywhere
+                                          : QTextOption::WrapAtWordBoundaryOrAnywhere);
   setPlainText(Montrable(texte));
   parCode_ = false;
+}
+
+void ZoneTexte::CoupeLesLignes(QTextOption::WrapMode ou) {
+  if (ou != wordWrapMode()) {
+    clear();  // the text that is leaving isn't broken anew
+    setWordWrapMode(ou);
+  }
 }
 
 void ZoneTexte::RemplaceTexte(std::string_view texte) {

@@ -7,6 +7,7 @@
 
 #include <QPlainTextEdit>
 #include <QString>
+#include <QTextOption>
 
 #include "controles/LimiteTexte.h"
 #include "controles/Reprise.h"
@@ -20,7 +21,8 @@ class ZoneTexte : public QPlainTextEdit {
   /// `limite` in characters, told as the property `maxLength`; 0: none.
   ZoneTexte(const QString& nom, int limite, QWidget* parent = nullptr);
 
-  /// Shows a text (Windows-1252), the cursor at its head.
+  /// Shows a text (Windows-1252), the cursor at its head. Throws for one that would fill the memory
+  /// (`plafondMemoireTexte`).
   void PoseTexte(std::string_view texte);
   /// Shows a text as `PoseTexte` does, in one step that can be undone. Where the box shows that
   /// very text, the cursor alone moves.
@@ -37,6 +39,7 @@ class ZoneTexte : public QPlainTextEdit {
   void keyPressEvent(QKeyEvent* touche) override;
 
  private:
+  void CoupeLesLignes(QTextOption::WrapMode ou);
   void Corrige();
   /// Keeps what fits of the text between two positions of the document. It was typed from `saisie`
   /// on: what stands before is never cut.

@@ -6,12 +6,17 @@ namespace gastrelle {
 
 void ChargeCourses(Module1& module) {
   Reserve textes(module.Place(Donnees::GLMCN));
+  std::size_t enTout = 0;
   for (std::size_t i = 0; i < nombreRayons; ++i) {
     LigneRayon& ligne = module.indexRayon[i];
     module.bufRayon.Lit(static_cast<std::int64_t>(i) + 1, ligne);
     module.texteRayon[i].clear();
     if (ligne.posTexte != 0) {
       module.texteRayon[i] = textes.Lit(ligne.posTexte, ligne.lgTexte);
+      enTout += module.texteRayon[i].size();
+    }
+    if (enTout > std::size_t{Reserve::plafond}) {
+      throw ErreurExecution(Panne::memoireInsuffisante);  // rows of a damaged directory overlap
     }
   }
 }

@@ -6,7 +6,8 @@
 namespace gastrelle {
 
 /// Fills the aisle texts from the open directory and texts. A row with position 0 is an empty
-/// aisle, whatever its length says. Throws on a failure.
+/// aisle, whatever its length says. Throws on a failure; all texts together are no longer than one
+/// text may be (`Reserve::plafond`).
 void ChargeCourses(Module1& module);
 
 /// Writes a fresh text file and the fifteen rows that point into it. The first failure abandons the

@@ -1,4 +1,4 @@
-// How much the text boxes take, in characters: on file each is one byte, a line break two.
+// How long texts are, in characters: on file each is one byte, a line break two.
 #pragma once
 
 #include <cstdint>
@@ -9,5 +9,7 @@ namespace gastrelle {
 inline constexpr int limiteNom = 128;
 /// A text of a pool.
 inline constexpr std::int32_t limiteTexte = 30000;
+/// A path: no system knows a longer one.
+inline constexpr std::int32_t limiteChemin = 32767;
 
 }  // namespace gastrelle

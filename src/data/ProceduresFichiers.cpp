@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "data/Limites.h"
 #include "data/Texte1252.h"
 
 namespace gastrelle {
@@ -101,7 +102,7 @@ std::string CheminProgramme(Module1& module, const std::string& chemin) {
 }
 
 bool ImageExiste(Module1& module, std::string_view chemin) {
-  return !chemin.empty() && Trouve([&] {
+  return !chemin.empty() && chemin.size() <= std::size_t{limiteChemin} && Trouve([&] {
     const std::string nom = NomInterne(module, chemin);
     return nom.empty() ? module.services.disque.ExisteAilleurs(VersUtf8(chemin))
                        : module.services.disque.Existe(nom);

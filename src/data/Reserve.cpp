@@ -19,8 +19,11 @@ std::string Reserve::Lit(std::int32_t position, std::int32_t longueur, std::int3
   // A length from a damaged record may be anything: no more is asked for than the file holds.
   const std::int64_t debut = std::int64_t{position} - 1;
   const std::int64_t reste = std::max<std::int64_t>(0, Longueur() - debut);
-  std::string texte(static_cast<std::size_t>(std::min<std::int64_t>({longueur, limite, reste})),
-                    ' ');
+  const auto lus = std::min<std::int64_t>({longueur, limite, reste});
+  if (lus > plafond) {
+    throw ErreurExecution(Panne::memoireInsuffisante);
+  }
+  std::string texte(static_cast<std::size_t>(lus), ' ');
   texte.resize(Ouvert(place_).Lit(debut, texte));
   return texte;
 }

@@ -28,11 +28,14 @@ struct ReferenceTexte {
 class Reserve {
  public:
   static constexpr std::int32_t sansLimite = std::numeric_limits<std::int32_t>::max();
+  /// The longest text that is read, in bytes: what a damaged length asks for beyond it is refused
+  /// instead of filling the memory.
+  static constexpr std::int32_t plafond = std::int32_t{1} << 25;
 
   explicit Reserve(const std::unique_ptr<Fichier>& place) : place_(place) {}
 
   /// The first `limite` bytes of a text, or what the file holds of them. Throws for a position
-  /// below 1 or a negative length.
+  /// below 1, for a negative length, and when that is more than `plafond`.
   [[nodiscard]] std::string Lit(std::int32_t position, std::int32_t longueur,
                                 std::int32_t limite = sansLimite);
 

@@ -65,17 +65,27 @@ bool EstFichier(const std::filesystem::path& chemin) {
 constexpr mode_t droitsOrdinaires = 0666;  // less what the user's mask takes away
 constexpr mode_t tousLesDroits = 0777;
 
-/// Opens a file without waiting for anybody, and refuses what isn't a regular file: a pipe, a
-/// socket or a device would keep the program waiting, or take what is written to it elsewhere.
-Descripteur OuvreOrdinaire(const std::filesystem::path& chemin, int maniere) {
-  Descripteur ouvert(
-      ::open(chemin.c_str(), maniere | O_CLOEXEC | O_NONBLOCK | O_NOCTTY, droitsOrdinaires));
+int NumeroDe(const std::filesystem::path& chemin, int maniere) {
+  return ::open(chemin.c_str(), maniere | O_CLOEXEC | O_NONBLOCK | O_NOCTTY, droitsOrdinaires);
+}
+
+/// An open file that is a regular one: a pipe, a socket or a device would keep the program waiting,
+/// or take what is written to it elsewhere. It was opened without waiting for anybody.
+Descripteur Ordinaire(int numero) {
+  Descripteur ouvert(numero);
   struct stat etat {};
   Exige(::fstat(ouvert.numero(), &etat));
   if (!S_ISREG(etat.st_mode)) {
     throw ErreurExecution(Panne::accesFichier);
   }
   return ouvert;
+}
+
+/// Opens a file that is there, or makes one: never at the end of a link that leads nowhere.
+Descripteur OuvreOuCree(const std::filesystem::path& chemin) {
+  const int present = NumeroDe(chemin, O_RDWR);
+  const bool manque = present < 0 && errno == ENOENT;
+  return Ordinaire(manque ? NumeroDe(chemin, O_RDWR | O_CREAT | O_EXCL) : present);
 }
 
 /// Reads at a byte until the buffer is full or the file ends. Returns the number of bytes read.
@@ -111,8 +121,7 @@ void EcritOctets(const Descripteur& fichier, std::int64_t decalage, std::string_
 
 class FichierPosix final : public Fichier {
  public:
-  explicit FichierPosix(const std::filesystem::path& chemin)
-      : descripteur_(OuvreOrdinaire(chemin, O_RDWR | O_CREAT)) {}
+  explicit FichierPosix(const std::filesystem::path& chemin) : descripteur_(OuvreOuCree(chemin)) {}
 
   std::size_t Lit(std::int64_t decalage, std::span<char> tampon) override {
     return LitOctets(descripteur_, decalage, tampon);
@@ -227,7 +236,7 @@ std::unique_ptr<Fichier> Disque::Ouvre(const std::string& nom) {
 
 void Disque::Copie(const std::string& source, const std::string& cible) {
   // The old file stands until the new one is whole.
-  const Descripteur lecture = OuvreOrdinaire(Chemin(source), O_RDONLY);
+  const Descripteur lecture = Ordinaire(NumeroDe(Chemin(source), O_RDONLY));
   const std::filesystem::path ancienne = Chemin(cible);
   Remplacant nouvelle(ancienne);
   CopieOctets(lecture, nouvelle.descripteur());

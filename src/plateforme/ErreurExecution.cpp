@@ -11,8 +11,9 @@ struct TextePanne {
   const char* texte;  // Windows-1252: E9 is e acute, E8 e grave, E0 a grave
 };
 
-constexpr std::array<TextePanne, 10> textes{{
+constexpr std::array<TextePanne, 11> textes{{
     {Panne::depassement, "D\xE9passement de capacit\xE9"},
+    {Panne::memoireInsuffisante, "M\xE9moire insuffisante"},
     {Panne::appelIncorrect, "Argument ou appel de proc\xE9\x64ure incorrect"},
     {Panne::fichierFerme, "Nom ou num\xE9ro de fichier incorrect"},
     {Panne::fichierIntrouvable, "Fichier introuvable"},
@@ -29,9 +30,10 @@ struct CodeSysteme {
   Panne panne;
 };
 
-constexpr std::array<CodeSysteme, 10> codes{{
+constexpr std::array<CodeSysteme, 11> codes{{
     {ENOENT, Panne::fichierIntrouvable},
     {EIO, Panne::entreeSortie},
+    {ENOMEM, Panne::memoireInsuffisante},
     {ENOSPC, Panne::disquePlein},
     {EDQUOT, Panne::disquePlein},
     {EFBIG, Panne::disquePlein},

@@ -10,6 +10,7 @@ namespace gastrelle {
 enum class Panne : int {
   appelIncorrect = 5,
   depassement = 6,
+  memoireInsuffisante = 7,
   fichierFerme = 52,
   fichierIntrouvable = 53,
   entreeSortie = 57,

@@ -5,8 +5,8 @@
 #include "controles/ComboListe.h"
 #include "controles/ListePartagee.h"
 #include "controles/PageOnglet.h"
-#include "controles/Vignette.h"
 #include "controles/ZoneTexte.h"
+#include "images/Vignette.h"
 
 namespace gastrelle {
 

@@ -10,8 +10,10 @@
 #include <QJsonObject>
 #include <QRegularExpression>
 #include <QResource>
+#include <QSet>
 
 #include "plateforme/ErreurExecution.h"
+#include "shell/ArbreAide.h"
 
 namespace gastrelle {
 namespace {
@@ -21,13 +23,22 @@ const QString racine = QStringLiteral("/gastrelle-aide");
 /// The build puts the hexadecimal SHA-256 of all other bytes at the end of the file.
 constexpr qsizetype longueurSceau = 64;
 
+/// A larger file isn't even read.
+constexpr qint64 octetsAuPlus = 64LL * 1024 * 1024;
+
+/// A view of bytes that stay where they are.
+QByteArray Vue(const QByteArray& octets, qsizetype longueur) {
+  return QByteArray::fromRawData(octets.constData(), longueur);
+}
+
 bool SceauJuste(const QByteArray& octets) {
   if (octets.size() <= longueurSceau) {
     return false;
   }
-  const QByteArray scelles = octets.chopped(longueurSceau);
+  const QByteArray scelles = Vue(octets, octets.size() - longueurSceau);
   return QCryptographicHash::hash(scelles, QCryptographicHash::Sha256).toHex() ==
-         octets.last(longueurSceau);
+             octets.last(longueurSceau) &&
+         ArbreSain(scelles);
 }
 
 QString Fichier(const QString& sujet) {
@@ -48,6 +59,9 @@ std::unique_ptr<FichierAide> FichierAide::Ouvre(const QString& chemin) {
   QFile fichier(chemin);
   if (!fichier.open(QIODevice::ReadOnly)) {
     throw ErreurExecution(Panne::accesFichier);
+  }
+  if (fichier.size() > octetsAuPlus) {
+    return nullptr;
   }
   std::unique_ptr<FichierAide> aide(new FichierAide(fichier.readAll()));
   return aide->Inscrit() && aide->LitSommaire() ? std::move(aide) : nullptr;
@@ -81,10 +95,16 @@ bool FichierAide::LitSommaire() {
           {page.toObject()[u"sujet"].toString(), page.toObject()[u"titre"].toString()});
     }
   }
+  QSet<QString> sujets;  // a page stands there once
   return !sommaire_.empty() &&
-         std::all_of(sommaire_.begin(), sommaire_.end(), [](const ChapitreAide& chapitre) {
-           return std::all_of(chapitre.pages.begin(), chapitre.pages.end(),
-                              [](const PageAide& page) { return !Html(page.sujet).isEmpty(); });
+         std::all_of(sommaire_.begin(), sommaire_.end(), [&](const ChapitreAide& chapitre) {
+           return !chapitre.pages.empty() &&
+                  std::all_of(chapitre.pages.begin(), chapitre.pages.end(),
+                              [&](const PageAide& page) {
+                                const bool premiere = !sujets.contains(page.sujet);
+                                sujets.insert(page.sujet);
+                                return premiere && !Html(page.sujet).isEmpty();
+                              });
          });
 }
 
@@ -93,6 +113,10 @@ bool FichierAide::Contient(const QString& sujet) const {
     return std::any_of(chapitre.pages.begin(), chapitre.pages.end(),
                        [&](const PageAide& page) { return page.sujet == sujet; });
   });
+}
+
+bool FichierAide::EstDedans(const QUrl& adresse) {
+  return adresse.scheme() == QLatin1String("qrc") && adresse.path().startsWith(racine + u'/');
 }
 
 QUrl FichierAide::Adresse(const QString& sujet) {

@@ -24,7 +24,8 @@ struct ChapitreAide {
 class FichierAide {
  public:
   /// Raises ErreurExecution when there is no such file or it can't be read. Null when it is
-  /// damaged: its seal doesn't fit, or a page of its contents isn't there.
+  /// damaged: its seal doesn't fit, or a page of its contents isn't there; and when it is larger
+  /// than any help, or built so that showing it would take much memory or time.
   static std::unique_ptr<FichierAide> Ouvre(const QString& chemin);
 
   FichierAide(const FichierAide&) = delete;
@@ -35,6 +36,8 @@ class FichierAide {
   [[nodiscard]] bool Contient(const QString& sujet) const;
   /// Where a text browser finds a page.
   [[nodiscard]] static QUrl Adresse(const QString& sujet);
+  /// True for the address of something that the help file holds.
+  [[nodiscard]] static bool EstDedans(const QUrl& adresse);
   /// The topic of such an address.
   [[nodiscard]] static QString Sujet(const QUrl& adresse);
   /// The names of a page's paragraphs: those of the controls that they are about, or of what

@@ -6,22 +6,23 @@
 #include <QGuiApplication>
 #include <QRegion>
 #include <QScreen>
-#include <QSettings>
 #include <QStyle>
 #include <QWindow>
 
-#include "controles/Conversion.h"
-#include "data/Messages.h"
+#include "controles/Reglages.h"
 
 namespace gastrelle {
 namespace {
 
 constexpr int twipsParPixel = 15;
 
-int Pixels(const QSettings& reglages, const char* cle, int twipsParDefaut) {
+QString Cle(const char* nom) {
+  return QStringLiteral("Settings/") + QLatin1String(nom);
+}
+
+int Pixels(const Reglages& reglages, const char* cle, int twipsParDefaut) {
   bool bon = false;
-  const double twips =
-      reglages.value(QStringLiteral("Settings/") + QLatin1String(cle)).toString().toDouble(&bon);
+  const double twips = reglages.Texte(Cle(cle)).toDouble(&bon);
   constexpr double raisonnable = 1'000'000;
   return qRound((bon && qAbs(twips) < raisonnable ? twips : twipsParDefaut) / twipsParPixel);
 }
@@ -29,17 +30,16 @@ int Pixels(const QSettings& reglages, const char* cle, int twipsParDefaut) {
 QRect LitGeometrie() {
   constexpr int largeurTwips = 12000;
   constexpr int hauteurTwips = 9000;
-  const QSettings reglages(QSettings::UserScope, VersQt(titreApplication));
+  const Reglages reglages;
   return {Pixels(reglages, "MainLeft", 0), Pixels(reglages, "MainTop", 0),
           Pixels(reglages, "MainWidth", largeurTwips),
           Pixels(reglages, "MainHeight", hauteurTwips)};
 }
 
 void EcritGeometrie(const QRect& geometrie) {
-  QSettings reglages(QSettings::UserScope, VersQt(titreApplication));
-  reglages.beginGroup(QStringLiteral("Settings"));
+  Reglages reglages;
   const auto ecrit = [&](const char* cle, int pixels) {
-    reglages.setValue(QLatin1String(cle), QString::number(pixels * twipsParPixel));
+    reglages.Ecrit(Cle(cle), QString::number(pixels * twipsParPixel));
   };
   ecrit("MainLeft", geometrie.left());
   ecrit("MainTop", geometrie.top());

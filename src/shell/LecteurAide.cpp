@@ -1,10 +1,12 @@
 #include "shell/LecteurAide.h"
 
 #include <QEvent>
+#include <QImage>
 #include <QScrollBar>
 #include <QTextBlock>
 
 #include "controles/Teintes.h"
+#include "shell/FichierAide.h"
 
 namespace gastrelle {
 namespace {
@@ -61,6 +63,14 @@ void LecteurAide::Agrandit(int points) {
 }
 
 QVariant LecteurAide::loadResource(int genre, const QUrl& adresse) {
+  if (genre == QTextDocument::ImageResource) {
+    QImage vide(1, 1, QImage::Format_ARGB32_Premultiplied);
+    vide.fill(Qt::transparent);
+    return vide;  // for none at all, the toolkit would look on the disk
+  }
+  if (!FichierAide::EstDedans(adresse)) {
+    return {};
+  }
   const QVariant ressource = QTextBrowser::loadResource(genre, adresse);
   return genre == QTextDocument::StyleSheetResource
              ? AvecCouleurs(ressource.toByteArray(), palette())

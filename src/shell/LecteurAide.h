@@ -19,6 +19,8 @@ class LecteurAide final : public QTextBrowser {
   /// The letters larger (or smaller, if negative) by so many points; 0: as they were at first.
   void Agrandit(int points);
 
+  /// What the help file holds, and nothing else: a page names no file of the disk. Pages have no
+  /// pictures.
   QVariant loadResource(int genre, const QUrl& adresse) override;
 
  protected:

@@ -8,10 +8,10 @@
 
 #include "controles/Conversion.h"
 #include "controles/Icones.h"
-#include "controles/LecteurImage.h"
 #include "controles/Touches.h"
 #include "data/Contextes.h"
 #include "data/ProceduresFichiers.h"
+#include "images/LecteurImage.h"
 #include "shell/ImageAssociee.h"
 
 namespace gastrelle {
@@ -91,17 +91,14 @@ bool frmImage::TropGrande(const QSize& image) const {
 void frmImage::Charge() {
   LecteurImage lecteur(QString::fromStdString(CheminSysteme(module_, chemin_)));
   const QSize etiree = Verre() - QSize(0, 3 * HauteurBarre());
-  QSize naturelle = lecteur.taille();
-  if (naturelle.isValid() && TropGrande(naturelle)) {
-    lecteur.Met(etiree);
-  }
-  const QImage image = lecteur.Lit();
+  const QImage image =
+      lecteur.Lit([&](const QSize& taille) { return TropGrande(taille) ? etiree : taille; });
   echec_ = image.isNull();
   if (echec_) {
     setAttribute(Qt::WA_DontShowOnScreen);  // its message alone is seen
     return;
   }
-  naturelle = naturelle.isValid() ? naturelle : image.size();
+  const QSize naturelle = lecteur.taille();
   if (TropGrande(naturelle)) {
     Picture1_->hide();
     Montre(Image1_, image, etiree, naturelle);

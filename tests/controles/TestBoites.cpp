@@ -87,6 +87,29 @@ TEST_F(MessagesAffiches, UneFinDeLigneEnDeuxCaracteresEnFaitUne) {
       [](QDialog& boite) { EXPECT_EQ(Boite(boite).text(), Fr("Fichier\n/a.png\nnon trouvé.")); });
 }
 
+TEST_F(MessagesAffiches, UnMessageDemesurePerdSonMilieuEtGardeSonBouton) {
+  AvecDialogue(
+      [&] {
+        messages.Informe("Le fichier\r\n" + std::string(100'000, 'x') + "\r\nn'a pas",
+                         Icone::exclamation);
+      },
+      [](QDialog& boite) {
+        const QString texte = Boite(boite).text();
+        EXPECT_TRUE(texte.startsWith("Le fichier\nxxx")) << texte.left(20).toStdString();
+        EXPECT_TRUE(texte.endsWith("xxx\nn'a pas"));
+        EXPECT_TRUE(texte.contains(Fr("xxx…xxx")));
+        EXPECT_LT(boite.height(), 2000);
+      });
+}
+
+TEST_F(MessagesAffiches, UnCheminAussiLongQueLeSystemeEnPermetSeLitEntier) {
+  const std::string chemin(4095, 'x');
+  AvecDialogue([&] { messages.Informe("Fichier\r\n" + chemin, Icone::critique); },
+               [&](QDialog& boite) {
+                 EXPECT_EQ(Boite(boite).text(), "Fichier\n" + QString::fromStdString(chemin));
+               });
+}
+
 TEST_F(MessagesAffiches, UnTexteSeLitTelQuel) {
   AvecDialogue([&] { messages.Informe("<b>gras</b>", Icone::critique); },
                [](QDialog& boite) {

@@ -1,9 +1,11 @@
 // The text box of several lines.
 
+#include <QElapsedTimer>
 #include <QTest>
 #include <gtest/gtest.h>
 
 #include "controles/BoitesEssai.h"
+#include "doublures/Pannes.h"
 
 namespace gastrelle::essai {
 namespace {
@@ -23,6 +25,40 @@ class Zone : public Boites<ZoneTexte> {
 TEST_F(Zone, RendLesFinsDeLigneDUnTexteTellesQuelles) {
   Pose("a\nb\rc\r\nd\n\re\r\r\n", 0);
   EXPECT_EQ(boite->Texte(), "a\nb\rc\r\nd\n\re\r\r\n");
+}
+
+TEST_F(Zone, UnTexteDePlusieursMegaoctetsSeMontreEnEntier) {
+  std::string texte;
+  while (texte.size() < 4'000'000) {
+    texte += "Couper la viande en cubes et laisser reposer au frais.\r\n";
+  }
+  Pose(texte, 0);
+  EXPECT_EQ(boite->Texte(), texte);
+}
+
+/// Broken between words it would take hours: every line would look for the end of the word anew.
+TEST_F(Zone, UnMotDeDeuxMegaoctetsSeMontreSansAttendre) {
+  const std::string mot(2'000'000, 'x');
+  QElapsedTimer duree;
+  duree.start();
+  Pose(mot, 0);
+  static_cast<void>(boite->grab());
+  EXPECT_LT(duree.elapsed(), 20'000);
+  EXPECT_EQ(boite->Texte(), mot);
+  Pose("deux mots", 0);
+  EXPECT_EQ(boite->wordWrapMode(), QTextOption::WrapAtWordBoundaryOrAnywhere);
+}
+
+TEST_F(Zone, UnTexteQuiRempliraitLaMemoireEstRefuseEtLAutreReste) {
+  Pose("avant", 0);
+  std::string lignes;
+  while (lignes.size() < 500'000) {
+    lignes += "\r\n";
+  }
+  EXPECT_EQ(PanneDe([&] { boite->PoseTexte(lignes); }), Panne::memoireInsuffisante);
+  EXPECT_EQ(PanneDe([&] { boite->PoseTexte(std::string(8'000'000, 'x')); }),
+            Panne::memoireInsuffisante);
+  EXPECT_EQ(boite->Texte(), "avant");
 }
 
 TEST_F(Zone, UneSaisieACoteDUneFinDeLigneSeuleNeLaChangePas) {

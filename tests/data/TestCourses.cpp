@@ -74,6 +74,31 @@ TEST_F(Courses, AcceptentUnAnnuaireVideOuQuelconque) {
   EXPECT_THAT(b.module->texteRayon, testing::Each(""));
 }
 
+TEST_F(Courses, SeLisentJusquAPlusieursMegaoctets) {
+  const std::string gros(6'000'000, 'x');
+  Demarre(Annuaire({{0, Rayon(10, 6'000'000)}, {14, Rayon(6'000'010, 3)}}),
+          "GLMCN.DAT" + gros + "sel");
+  EXPECT_EQ(b.module->texteRayon[0], gros);
+  EXPECT_EQ(b.module->texteRayon[14], "sel");
+}
+
+/// Each row alone can be read; together they would fill the memory.
+TEST_F(Courses, RefusentDesLignesQuiSeRecouvrent) {
+  std::map<std::size_t, std::string> lignes;
+  for (std::size_t i = 0; i < nombreRayons; ++i) {
+    lignes[i] = Rayon(1, Reserve::plafond);
+  }
+  b.dossier.Ecrit("GLMC.DAT", Annuaire(lignes));
+  b.dossier.Ecrit("GLMCN.DAT", "GLMCN.DAT");
+  std::filesystem::resize_file(b.dossier.chemin() / "GLMCN.DAT", std::int64_t{1} << 31);
+  const Depart depart = Essaie(b);
+  EXPECT_FALSE(depart.cadre);
+  EXPECT_EQ(depart.fin, 1);
+  EXPECT_EQ(b.messages.vus.at(0).texte,
+            "Fichier\r\n" + b.module->chemins.De("GLMCN.DAT") + "\r\n" +
+                std::string("non trouvé ou incompatible ou erreur disque."_1252));
+}
+
 TEST_F(Courses, RefusentUnePositionOuUneLongueurNegative) {
   for (const std::string& ligne : {Rayon(-1, 3), Rayon(10, -1)}) {
     Bibliotheque abimee;

@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "data/Limites.h"
 #include "data/ProceduresFichiers.h"
 #include "doublures/Depart.h"
 
@@ -132,6 +133,14 @@ TEST_F(Procedures, ImageExisteDitNonQuandLaRechercheEchoue) {
   b.dossier.Ecrit("IMAGE/soupe.jpg", "");
   b.disque.EchoueSur("existe IMAGE/", Panne::entreeSortie);
   EXPECT_FALSE(ImageExiste(module, module.chemins.De("IMAGE/soupe.jpg")));
+}
+
+TEST_F(Procedures, ImageExisteNeChercheAucunCheminPlusLongQueCeuxDesSystemes) {
+  b.disque.OublieJournal();
+  EXPECT_FALSE(ImageExiste(module, std::string(std::size_t{limiteChemin} + 1, '/')));
+  EXPECT_THAT(b.disque.journal(), IsEmpty());
+  EXPECT_FALSE(ImageExiste(module, std::string(std::size_t{limiteChemin}, 'x')));
+  EXPECT_THAT(b.disque.journal(), testing::SizeIs(1));
 }
 
 /// Paths of a program folder whose name the files can hold, or can't.

@@ -212,6 +212,26 @@ TEST_F(ReserveTextes, LitCeQuIlYAQuandLaReferenceDepasseLaFin) {
   EXPECT_EQ(reserve.Lit(2'147'483'647, 5), "");
 }
 
+TEST_F(ReserveTextes, RefuseUnTexteQuiRempliraitLaMemoire) {
+  std::filesystem::resize_file(dossier.chemin() / "GLR3.DAT", std::int64_t{1} << 31);
+  disque.OublieJournal();
+  EXPECT_EQ(PanneDe([&] { (void)reserve.Lit(9, Reserve::sansLimite); }),
+            Panne::memoireInsuffisante);
+  EXPECT_EQ(PanneDe([&] { (void)reserve.Lit(1, Reserve::plafond + 1); }),
+            Panne::memoireInsuffisante);
+  EXPECT_THAT(disque.journal(), testing::Each("longueur GLR3.DAT"));
+  EXPECT_EQ(reserve.Lit(9, Reserve::sansLimite, limiteTexte), std::string(30000, '\0'));
+}
+
+TEST_F(ReserveTextes, LitUnTexteDePlusieursMegaoctetsEnEntier) {
+  const std::string texte(5'000'000, 'x');
+  reserve.Ajoute(Reference(), texte);
+  EXPECT_EQ(reserve.Lit(position, longueur), texte);
+  EXPECT_EQ(reserve.Lit(position, Reserve::sansLimite), texte);
+  std::filesystem::resize_file(dossier.chemin() / "GLR3.DAT", Reserve::plafond);
+  EXPECT_EQ(reserve.Lit(1, Reserve::plafond).size(), std::size_t{Reserve::plafond});
+}
+
 TEST_F(ReserveTextes, NeLitRienEnPositionZeroEtRendUnTexteVide) {
   place.reset();
   EXPECT_EQ(reserve.Lit(0, 1), "");

@@ -78,7 +78,7 @@ QString ProgrammeEssai::FenetreDe(const QProcess& processus, const QString& dess
         fenetres.removeAll(dessous);
         return !fenetres.isEmpty() || processus.state() == QProcess::NotRunning;
       },
-      patience));
+      attente));
   EXPECT_EQ(fenetres.size(), 1) << fenetres.join(u' ').toStdString();
   return fenetres.value(0);
 }
@@ -90,7 +90,7 @@ int ProgrammeEssai::FinitPar(const char* touche, QProcess& processus, const QStr
         Outil({"key", touche});
         return processus.state() == QProcess::NotRunning || processus.waitForFinished(500);
       },
-      patience));
+      attente));
   EXPECT_EQ(processus.exitStatus(), QProcess::NormalExit);
   return processus.exitCode();
 }

@@ -58,6 +58,8 @@ class ProgrammeEssai : public testing::Test {
   /// Runs in the process between its making and the program: limits of the system, the user. May
   /// call nothing but the system.
   std::function<void()> avantDepart;
+  /// How long a window or the end of the program may take, in milliseconds.
+  int attente = patience;
   /// Where the program is started from; empty: where the tests run.
   std::string dossierCourant;
   /// What the environment says beside the display.

@@ -63,27 +63,37 @@ std::string_view Lecteur::Morceau(std::size_t longueur) {
   return morceau;
 }
 
-void PoseDossier(std::string_view entree, Module1& module, DisqueMemoire& disque) {
+bool VaSurDisque(std::string_view entree) {
+  return (Lecteur(entree).Octet() & surDisque) != 0;
+}
+
+Suite PoseFichiers(std::string_view entree, Module1& module) {
+  AccesFichiers& disque = module.services.disque;
+  const auto pose = [&disque](const std::string& nom, std::string_view octets) {
+    disque.Ouvre(nom)->Ecrit(0, octets);
+  };
   Lecteur lecteur(entree);
-  const unsigned choix = lecteur.Octet();
+  Suite suite;
+  suite.choix = lecteur.Octet();
   const unsigned remplaces = lecteur.Mot() | (lecteur.Octet() << 16U);
-  disque.EchoueALAppel(lecteur.Mot());
+  suite.panne = lecteur.Mot();
   for (std::size_t i = 0; i < nombreFichiers; ++i) {
     const auto fichier = static_cast<Donnees>(i);
-    const bool copie = (choix & enFabrique) != 0 && fichier != Donnees::GLPREF;
+    const bool copie = (suite.choix & enFabrique) != 0 && fichier != Donnees::GLPREF;
     const std::string nom = copie ? NomFabrique(fichier) : Nom(fichier);
     if ((remplaces >> i & 1U) == 0) {
-      disque.Pose(nom, Ordinaire(module, fichier));
+      pose(nom, Ordinaire(module, fichier));
     } else if (const unsigned longueur = lecteur.Mot(); longueur != absent) {
-      disque.Pose(
-          nom, Remplace(module, fichier, lecteur.Morceau(longueur), (choix & gardeEntetes) != 0));
+      pose(nom,
+           Remplace(module, fichier, lecteur.Morceau(longueur), (suite.choix & gardeEntetes) != 0));
     }
   }
-  if ((choix & avecImages) != 0) {
-    disque.PoseDossier("IMAGE");
-    disque.Pose(imageDuDossier, "x");
-    disque.PoseAilleurs(imageAilleurs);
+  if ((suite.choix & avecImages) != 0) {
+    disque.CreeDossier("IMAGE");
+    pose(imageDuDossier, "x");
   }
+  suite.intrus = lecteur.reste();
+  return suite;
 }
 
 }  // namespace gastrelle::essai

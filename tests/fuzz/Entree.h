@@ -2,9 +2,11 @@
 //
 //   byte  0      options, see below
 //   bytes 1-3    the data files that are replaced, one bit a row of the table of files
-//   bytes 4-5    the call of the disk that fails, counted from the first one; 0: none
+//   bytes 4-5    the call of the disk in memory that fails, counted from the first one; 0: none
 //   then, for each replaced file, two bytes of length and its bytes; the length `absent` takes the
-//   file away. Numbers are little-endian; what the input doesn't hold any more reads as zeros.
+//   file away
+//   then, on the disk of the machine, what lies there that is no file (`DossierReel::Pose`)
+// Numbers are little-endian; what the input doesn't hold any more reads as zeros.
 #pragma once
 
 #include <cstdint>
@@ -12,7 +14,6 @@
 #include <string_view>
 
 #include "data/Module1.h"
-#include "fuzz/DisqueMemoire.h"
 
 namespace gastrelle::essai {
 
@@ -25,6 +26,8 @@ enum Choix : unsigned {
   enFabrique = 2,
   /// The picture folder and `imageDuDossier` in it are there, and `imageAilleurs`.
   avecImages = 4,
+  /// The folder lies on the disk of the machine.
+  surDisque = 8,
 };
 
 inline constexpr std::uint16_t absent = 0xFFFF;
@@ -41,12 +44,22 @@ class Lecteur {
   unsigned Octet();
   unsigned Mot();
   std::string_view Morceau(std::size_t longueur);
+  [[nodiscard]] std::string_view reste() const { return octets_; }
 
  private:
   std::string_view octets_;
 };
 
-/// Lays the folder of an input on the disk, for a module that isn't started yet.
-void PoseDossier(std::string_view entree, Module1& module, DisqueMemoire& disque);
+/// What an input says beside its files.
+struct Suite {
+  unsigned choix = 0;
+  unsigned panne = 0;
+  std::string_view intrus;
+};
+
+[[nodiscard]] bool VaSurDisque(std::string_view entree);
+
+/// Lays the files of an input on the module's disk; the module isn't started yet.
+Suite PoseFichiers(std::string_view entree, Module1& module);
 
 }  // namespace gastrelle::essai

@@ -5,6 +5,7 @@
 #include <map>
 
 #include "data/Texte1252.h"
+#include "fuzz/DossierReel.h"
 #include "fuzz/Entree.h"
 
 namespace gastrelle::essai {
@@ -82,6 +83,7 @@ struct Dossier {
   unsigned panne = 0;
   std::map<Donnees, std::string> fichiers;
   std::map<Donnees, bool> absents;
+  std::string intrus;
 
   [[nodiscard]] std::string octets() const {
     unsigned remplaces = 0;
@@ -97,7 +99,7 @@ struct Dossier {
       }
     }
     return std::string{static_cast<char>(choix)} + Mot(remplaces & 0xFFFFU) +
-           std::string{static_cast<char>(remplaces >> 16U)} + Mot(panne) + morceaux;
+           std::string{static_cast<char>(remplaces >> 16U)} + Mot(panne) + morceaux + intrus;
   }
 };
 
@@ -264,9 +266,7 @@ Dossier EnPanne(unsigned appel) {
   return d;
 }
 
-}  // namespace
-
-std::vector<Graine> Graines() {
+std::vector<Graine> GrainesEnMemoire() {
   constexpr unsigned appelDuDemarrage = 30;
   constexpr unsigned appelDesListes = 90;
   constexpr std::int16_t tropHaut = std::numeric_limits<std::int16_t>::max();
@@ -290,6 +290,59 @@ std::vector<Graine> Graines() {
       {"panne-au-demarrage", EnPanne(appelDuDemarrage).octets()},
       {"panne-dans-les-listes", EnPanne(appelDesListes).octets()},
   };
+}
+
+/// The same intruder under every name that `prend` takes.
+template <class Prend>
+Dossier AvecIntrus(Dossier d, Intrus intrus, Prend&& prend) {
+  d.choix |= surDisque;
+  for (const std::string& nom : NomsDuDossier()) {
+    if (prend(nom)) {
+      d.intrus += Glisse(nom, intrus);
+    }
+  }
+  return d;
+}
+
+/// Under the names of copies under way: nothing of it concerns the program.
+Dossier SousLesCopies(Intrus intrus) {
+  return AvecIntrus(EnFabrique(), intrus, [](const std::string& nom) { return nom.back() == '~'; });
+}
+
+/// In the place of the factory copies, the data files being away.
+Dossier EnFabriques(Intrus intrus) {
+  return AvecIntrus(EnFabrique(), intrus,
+                    [](const std::string& nom) { return nom.ends_with(".stp"); });
+}
+
+/// In the place of the data files, which are there as factory copies, or at the end of the links.
+Dossier EnDonnees(Intrus intrus) {
+  const Dossier d = intrus == Intrus::lienFichier ? DeuxFamilles() : EnFabrique();
+  return AvecIntrus(d, intrus, [](const std::string& nom) {
+    return nom.ends_with(".DAT") && nom.find('/') == std::string::npos;
+  });
+}
+
+/// In the place of the backup's files.
+Dossier EnSauve(Intrus intrus) {
+  return AvecIntrus(DeuxFamilles(), intrus, [](const std::string& nom) {
+    return nom.ends_with(".DAT") && nom.find('/') != std::string::npos;
+  });
+}
+
+}  // namespace
+
+std::vector<Graine> Graines() {
+  std::vector<Graine> graines = GrainesEnMemoire();
+  for (std::size_t i = 0; i < nombreIntrus; ++i) {
+    const auto intrus = static_cast<Intrus>(i);
+    const std::string debut = "intrus-" + std::string(nomsIntrus[i]);
+    graines.push_back({debut + "-copies", SousLesCopies(intrus).octets()});
+    graines.push_back({debut + "-fabriques", EnFabriques(intrus).octets()});
+    graines.push_back({debut + "-donnees", EnDonnees(intrus).octets()});
+    graines.push_back({debut + "-sauve", EnSauve(intrus).octets()});
+  }
+  return graines;
 }
 
 }  // namespace gastrelle::essai

@@ -1,6 +1,8 @@
 #include "fuzz/Parcours.h"
 
+#include <algorithm>
 #include <array>
+#include <functional>
 #include <limits>
 #include <stdexcept>
 
@@ -9,10 +11,14 @@
 #include "data/Limites.h"
 #include "data/Main.h"
 #include "data/ProceduresFichiers.h"
+#include "data/Texte1252.h"
 #include "doublures/ServicesEssai.h"
 #include "fiches/CatalogueFiches.h"
 #include "fromages/CatalogueFromages.h"
+#include "fuzz/DisqueMemoire.h"
+#include "fuzz/DossierReel.h"
 #include "fuzz/Entree.h"
+#include "maintenance/Sauvegarde.h"
 #include "recettes/LectureRecettes.h"
 
 namespace gastrelle::essai {
@@ -26,9 +32,14 @@ void Verifie(bool condition, const char* sinon) {
 
 class Vie {
  public:
-  explicit Vie(std::string_view entree) { PoseDossier(entree, module_, disque_); }
+  Vie(AccesFichiers& disque, std::string_view dossier)
+      : module_{{disque, messages_, pointeur_, horloge_, association_, son_, processus_},
+                Chemins(Convention::posix, dossier)} {}
 
-  Bilan Va() {
+  [[nodiscard]] Module1& module() { return module_; }
+
+  /// `gueritDisque` runs before what the next start has to find whole.
+  Bilan Va(const std::function<void()>& gueritDisque) {
     try {
       Essaie([&] { Main(module_, false, [&] { bilan_.cadre = true; }); });
       if (bilan_.cadre) {
@@ -37,13 +48,16 @@ class Vie {
         Fromages();
         Fiches(fichiersMenus, bilan_.menus);
         Fiches(fichiersTrucs, bilan_.trucs);
+        gueritDisque();
         Courses();
         Essaie([&] { static_cast<void>(MesureRecettes(module_)); });
         Essaie([&] { static_cast<void>(OuvreFichiersRecettes(module_, true)); });
+        bilan_.copie = CopieSecurite(module_);
       }
     } catch (const FinDuProgramme& fin) {
       bilan_.fin = fin.statut;
     }
+    VerifieMessages();
     return std::move(bilan_);
   }
 
@@ -179,28 +193,65 @@ class Vie {
     for (const std::string& texte : avant) {
       bilan_.rayons += texte.empty() ? 0 : 1;
     }
-    disque_.EchoueALAppel(0);
     SauveCourses(module_);
     Verifie(Essaie([&] { ChargeCourses(module_); }), "des rayons illisibles après leur écriture");
     Verifie(module_.texteRayon == avant, "un rayon changé par son écriture");
   }
 
-  DisqueMemoire disque_;
+  /// Every message is one of those about a file.
+  void VerifieMessages() {
+    constexpr std::array<std::string_view, 2> fins{
+        " non trouvé ou erreur disque."_1252, " non trouvé ou incompatible ou erreur disque."_1252};
+    for (const MessageVu& vu : messages_.vus) {
+      std::string texte = vu.texte;
+      std::replace(texte.begin(), texte.end(), '\r', ' ');
+      texte.erase(std::remove(texte.begin(), texte.end(), '\n'), texte.end());
+      Verifie(texte.starts_with("Fichier " + module_.chemins.De("GL")) &&
+                  std::any_of(fins.begin(), fins.end(),
+                              [&](std::string_view fin) { return texte.ends_with(fin); }),
+              "un message inconnu");
+      bilan_.messages.push_back(std::move(texte));
+    }
+  }
+
   MessagesEssai messages_;
   PointeurEssai pointeur_;
   HorlogeEssai horloge_;
   AssociationEssai association_;
   SonEssai son_;
   ProcessusEssai processus_;
-  Module1 module_{Services{disque_, messages_, pointeur_, horloge_, association_, son_, processus_},
-                  Chemins(Convention::posix, dossierMemoire)};
+  Module1 module_;
   Bilan bilan_;
 };
 
 }  // namespace
 
+namespace {
+
+Bilan ParcourtEnMemoire(std::string_view entree) {
+  DisqueMemoire disque;
+  Vie vie(disque, dossierMemoire);
+  const Suite suite = PoseFichiers(entree, vie.module());
+  if ((suite.choix & avecImages) != 0) {
+    disque.PoseAilleurs(imageAilleurs);
+  }
+  disque.EchoueALAppel(suite.panne);
+  return vie.Va([&] { disque.EchoueALAppel(0); });
+}
+
+Bilan ParcourtSurDisque(std::string_view entree) {
+  DossierReel dossier;
+  Vie vie(dossier.disque(), dossier.chemin());
+  dossier.Pose(PoseFichiers(entree, vie.module()).intrus);
+  Bilan bilan = vie.Va([] {});
+  dossier.Verifie();
+  return bilan;
+}
+
+}  // namespace
+
 Bilan Parcourt(std::string_view entree) {
-  return Vie(entree).Va();
+  return VaSurDisque(entree) ? ParcourtSurDisque(entree) : ParcourtEnMemoire(entree);
 }
 
 }  // namespace gastrelle::essai

@@ -1,5 +1,5 @@
 // One life of the program on the folder of an input: the start, every list, every recipe, cheese,
-// menu and tip, the aisle texts and their rewriting, the measure of the dead space.
+// menu and tip, the aisle texts and their rewriting, the measure of the dead space, the backup.
 #pragma once
 
 #include <optional>
@@ -30,10 +30,13 @@ struct Bilan {
   Lus trucs;
   std::size_t pannes = 0;  ///< steps that ended in an ErreurExecution
   std::size_t rayons = 0;  ///< aisles with a text
+  bool copie = false;      ///< the backup was made
+  std::vector<std::string> messages;
 };
 
 /// Only ErreurExecution and the end of the program are accepted on the way: any other exception,
-/// and a std::logic_error for a result that contradicts the files, goes through.
+/// and a std::logic_error for a result that contradicts the files, for a message that the program
+/// doesn't know or for a trace where it has nothing to do (`DossierReel`), goes through.
 Bilan Parcourt(std::string_view entree);
 
 }  // namespace gastrelle::essai

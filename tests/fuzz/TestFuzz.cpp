@@ -1,20 +1,20 @@
 // The corpus replayed as ordinary tests, and the proof that its folders are what they claim: a
 // fuzzer that never gets past the first file would find nothing.
 
-#include <cstdint>
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <unistd.h>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "data/Texte1252.h"
+#include "fuzz/DossierReel.h"
 #include "fuzz/Entree.h"
 #include "fuzz/Graines.h"
 #include "fuzz/Parcours.h"
-
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* octets, std::size_t longueur);
 
 namespace gastrelle::essai {
 namespace {
@@ -30,17 +30,28 @@ std::string Octets(const std::filesystem::path& fichier) {
   return {std::istreambuf_iterator<char>(entree), {}};
 }
 
-Bilan Graine(const char* nom) {
+Bilan Graine(const std::string& nom) {
   return Parcourt(Octets(corpus / nom));
 }
 
+/// Ends the tests when something blocks, which no test could tell any more.
+class Patience {
+ public:
+  Patience() { ::alarm(secondes); }
+  Patience(const Patience&) = delete;
+  Patience& operator=(const Patience&) = delete;
+  ~Patience() { ::alarm(0); }
+
+ private:
+  static constexpr unsigned secondes = 60;
+};
+
 TEST(Corpus, RejoueToutesLesEntreesGardees) {
+  const Patience patience;
   std::size_t rejouees = 0;
   for (const auto& fichier : std::filesystem::directory_iterator(corpus)) {
     SCOPED_TRACE(fichier.path().filename().string());
-    const std::string octets = Octets(fichier);
-    const std::vector<std::uint8_t> entree(octets.begin(), octets.end());
-    EXPECT_NO_THROW(LLVMFuzzerTestOneInput(entree.data(), entree.size()));
+    EXPECT_NO_THROW(static_cast<void>(Parcourt(Octets(fichier))));
     ++rejouees;
   }
   EXPECT_GE(rejouees, Graines().size());
@@ -153,6 +164,63 @@ TEST(Corpus, UnePanneApresLeDemarrageLaisseLeResteSeFaire) {
   EXPECT_TRUE(bilan.cadre);
   EXPECT_GT(bilan.pannes, 0U);
 }
+
+/// What lies in the program's folder that is no file; the parameter is its name in the corpus.
+class ParmiLesIntrus : public testing::TestWithParam<std::string_view> {
+ protected:
+  static Bilan AvecIntrus(const char* ou) {
+    return Graine("intrus-" + std::string(GetParam()) + ou);
+  }
+
+  const Patience patience;
+};
+
+TEST_P(ParmiLesIntrus, LesNomsDesCopiesEnCoursNeGenentPas) {
+  const Bilan bilan = AvecIntrus("-copies");
+  EXPECT_THAT(bilan.messages, IsEmpty());
+  EXPECT_EQ(bilan.recettes.size(), 3U);
+  EXPECT_TRUE(bilan.copie);
+}
+
+TEST_P(ParmiLesIntrus, UneCopieDeFabriqueQuiNEstPasUnFichierRefuseLeDemarrage) {
+  const Bilan bilan = AvecIntrus("-fabriques");
+  const bool unFichier = GetParam() == "lien-fichier";
+  EXPECT_EQ(bilan.cadre, unFichier);
+  EXPECT_EQ(bilan.messages.size(), unFichier ? 0U : 1U);
+}
+
+TEST_P(ParmiLesIntrus, UnFichierDeDonneesQuiNEnEstPasUnEstRemplaceOuDit) {
+  const Bilan bilan = AvecIntrus("-donnees");
+  EXPECT_EQ(bilan.cadre, bilan.messages.empty());
+  EXPECT_EQ(bilan.fin, bilan.cadre ? std::nullopt : std::optional(1));
+}
+
+TEST_P(ParmiLesIntrus, LaSauvegardeRemplaceToutSaufUnDossier) {
+  const Bilan bilan = AvecIntrus("-sauve");
+  EXPECT_TRUE(bilan.cadre);
+  EXPECT_EQ(bilan.copie, GetParam() != "dossier");
+}
+
+/// Each name alone, over folders with their data files and with their factory copies.
+TEST_P(ParmiLesIntrus, AucunNomNeBloqueNiNeMeneAilleurs) {
+  const auto place = std::find(std::begin(nomsIntrus), std::end(nomsIntrus), GetParam());
+  const auto intrus = static_cast<Intrus>(place - std::begin(nomsIntrus));
+  for (const char* base : {"deux-familles", "en-fabrique"}) {
+    std::string entree = Octets(corpus / base);
+    entree[0] = static_cast<char>(static_cast<unsigned char>(entree[0]) | surDisque);
+    for (const std::string& nom : NomsDuDossier()) {
+      SCOPED_TRACE(std::string(base) + ", " + nom);
+      EXPECT_NO_THROW(static_cast<void>(Parcourt(entree + Glisse(nom, intrus))));
+    }
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Tous, ParmiLesIntrus, testing::ValuesIn(nomsIntrus),
+                         [](const testing::TestParamInfo<std::string_view>& cas) {
+                           std::string nom(cas.param);
+                           std::replace(nom.begin(), nom.end(), '-', '_');
+                           return nom;
+                         });
 
 }  // namespace
 }  // namespace gastrelle::essai

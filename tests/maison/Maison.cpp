@@ -21,7 +21,7 @@ struct Piece {
   int etage;
 };
 
-constexpr std::array<Piece, 13> pieces{{
+constexpr std::array<Piece, 14> pieces{{
     {"plateforme", 1},
     {"data", 2},
     {"recettes", 3},
@@ -34,6 +34,7 @@ constexpr std::array<Piece, 13> pieces{{
     {"recherche", 4},
     {"maintenance", 4},
     {"controles", 5},
+    {"images", 5},
     {"shell", 7},
 }};
 constexpr int etageControles = 5;

@@ -72,6 +72,13 @@ TEST_F(DisqueHostile, SuitUnLienVersUnFichier) {
   EXPECT_EQ(dossier.Lit("Y"), "contenu");
 }
 
+TEST_F(DisqueHostile, NeCreeRienAuBoutDUnLienQuiNeMeneNullePart) {
+  fs::create_symlink(ailleurs.chemin() / "neuf", Chemin("X"));
+  EXPECT_EQ(PanneDe([&] { (void)disque.Ouvre("X"); }), Panne::accesFichier);
+  EXPECT_FALSE(ailleurs.A("neuf"));
+  EXPECT_TRUE(fs::is_symlink(Chemin("X")));
+}
+
 TEST_F(DisqueHostile, NEcritJamaisAuBoutDUnLienQuiAttendSousLeNomProvisoire) {
   dossier.Ecrit("X", "recettes");
   ailleurs.Ecrit("precieux", "à moi");

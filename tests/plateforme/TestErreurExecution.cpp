@@ -20,6 +20,7 @@ struct PanneDite {
 constexpr PanneDite pannes[] = {
     {Panne::appelIncorrect, 5, "Argument ou appel de procédure incorrect"_1252},
     {Panne::depassement, 6, "Dépassement de capacité"_1252},
+    {Panne::memoireInsuffisante, 7, "Mémoire insuffisante"_1252},
     {Panne::fichierFerme, 52, "Nom ou numéro de fichier incorrect"_1252},
     {Panne::fichierIntrouvable, 53, "Fichier introuvable"},
     {Panne::entreeSortie, 57, "Erreur d'entrée/sortie"_1252},
@@ -49,6 +50,7 @@ TEST(ErreurExecution, SeRapporteAvecSonNumeroPuisSonTexte) {
 TEST(ErreurExecution, TraduitLesErreursDuSysteme) {
   EXPECT_EQ(PanneDuSysteme(ENOENT), Panne::fichierIntrouvable);
   EXPECT_EQ(PanneDuSysteme(EIO), Panne::entreeSortie);
+  EXPECT_EQ(PanneDuSysteme(ENOMEM), Panne::memoireInsuffisante);
   EXPECT_EQ(PanneDuSysteme(ENOTDIR), Panne::cheminIntrouvable);
   EXPECT_EQ(PanneDuSysteme(EINVAL), Panne::appelIncorrect);
   for (const int plein : {ENOSPC, EDQUOT, EFBIG}) {

@@ -20,6 +20,17 @@ TEST_F(ListeDesFromages, OuvreSurLePremierFromage) {
   EXPECT_EQ(cadre->cochee, EntreeVue::fromages);
 }
 
+TEST_F(ListeDesFromages, DesNotesQuiRempliraientLaMemoireFinissentLeProgramme) {
+  std::string lignes;
+  while (lignes.size() < 1'000'000) {
+    lignes += "\r\n";
+  }
+  b.AjouteFromage(Fromage("Vieux"), lignes);
+  Ouvre();
+  Choisit(fromages(), 122);
+  AttendFinFatale();
+}
+
 TEST_F(ListeDesFromages, ChangeDeFromageALaSouris) {
   OuvreSurAbondance();
   Choisit(fromages(), 1);

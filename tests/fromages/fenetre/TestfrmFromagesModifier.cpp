@@ -1,5 +1,6 @@
 // The tab "Modifier" of the cheeses window, through its controls.
 
+#include "controles/ZoneTexte.h"
 #include "fromages/fenetre/FenetreFromages.h"
 
 namespace gastrelle::essai {
@@ -166,6 +167,22 @@ TEST_F(ModifierUnFromage, DesNotesTropLonguesPourLaBoiteSurviventAUneValidation)
   Ouvre(3);
   Valide();
   EXPECT_EQ(FicheFromage(b, 124).lgTexte, 40000);
+}
+
+TEST_F(ModifierUnFromage, DesNotesDePlusieursMegaoctetsSontSurTousLesOnglets) {
+  std::string notes;
+  while (notes.size() < 3'000'000) {
+    notes += "Un fromage que l'on affine en cave humide, sur de la paille.\r\n";
+  }
+  b.AjouteFromage(Fromage("Abondance"), notes);
+  Ouvre(1);
+  VaA(4);
+  VaA(3);
+  for (const char* nom : {"txtNotes", "txtNotesSupprimer", "txtNotesModifier"}) {
+    EXPECT_EQ(dynamic_cast<ZoneTexte&>(Le(nom)).Texte(), notes) << nom;
+  }
+  Valide();
+  EXPECT_EQ(FicheFromage(b, 124).lgTexte, std::ssize(notes));
 }
 
 TEST_F(ModifierUnFromage, RelitLeCatalogueEtRepareSonCompte) {

@@ -6,9 +6,9 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
-#include "controles/Vignette.h"
 #include "doublures/Bibliotheque.h"
 #include "doublures/Ecran.h"
+#include "images/Vignette.h"
 
 namespace gastrelle::essai {
 namespace {

@@ -1,4 +1,4 @@
-#include "controles/Vignette.h"
+#include "images/Vignette.h"
 
 #include <utility>
 
@@ -6,7 +6,7 @@
 #include <QPainter>
 #include <QTimer>
 
-#include "controles/LecteurImage.h"
+#include "images/LecteurImage.h"
 
 namespace gastrelle {
 namespace {
@@ -51,12 +51,10 @@ void Vignette::Lit() {
     return;
   }
   const QSize place = QSize(largeurVignette, hauteurVignette) * devicePixelRatioF();
-  LecteurImage lecteur(fichier_);
-  const QSize taille = lecteur.taille();
-  if (taille.width() > place.width() || taille.height() > place.height()) {
-    lecteur.Met(taille.scaled(place, Qt::KeepAspectRatio));
-  }
-  image_ = lecteur.Lit();
+  image_ = LecteurImage(fichier_).Lit([&](const QSize& taille) {
+    const bool tient = taille.boundedTo(place) == taille;
+    return tient ? taille : taille.scaled(place, Qt::KeepAspectRatio);
+  });
   RegleVue();
   update();
 }
