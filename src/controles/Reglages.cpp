@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QLockFile>
 
 #include "controles/Conversion.h"
 #include "data/Messages.h"
@@ -24,10 +25,20 @@ bool SOuvre(const QFileInfo& place) {
   return place.exists() ? place.isFile() && place.size() <= octetsAuPlus : !place.isSymLink();
 }
 
-/// The toolkit locks the settings with a file beside them while it writes.
+/// The toolkit locks the settings with a file beside them while it writes, and waits for that of
+/// another program as long as it is there.
+QString CheminVerrou() {
+  return CheminReglages() + QStringLiteral(".lock");
+}
+
 bool Utilisables() {
-  const QString chemin = CheminReglages();
-  return SOuvre(QFileInfo(chemin)) && SOuvre(QFileInfo(chemin + QStringLiteral(".lock")));
+  return SOuvre(QFileInfo(CheminReglages())) && SOuvre(QFileInfo(CheminVerrou()));
+}
+
+/// Another program may be writing: that takes it a moment.
+bool VerrouLibre() {
+  constexpr int unMoment = 100;  // milliseconds
+  return !QFileInfo::exists(CheminVerrou()) || QLockFile(CheminVerrou()).tryLock(unMoment);
 }
 
 }  // namespace
@@ -42,14 +53,21 @@ QString Reglages::Texte(const QString& cle) const {
   return magasin_ ? magasin_->value(cle).toString() : QString();
 }
 
+bool Reglages::SEcrit() {
+  if (!libre_) {
+    libre_ = magasin_ && VerrouLibre();
+  }
+  return *libre_;
+}
+
 void Reglages::Ecrit(const QString& cle, const QString& texte) {
-  if (magasin_) {
+  if (SEcrit()) {
     magasin_->setValue(cle, texte);
   }
 }
 
 void Reglages::Oublie(const QString& cle) {
-  if (magasin_) {
+  if (SEcrit()) {
     magasin_->remove(cle);
   }
 }

@@ -21,7 +21,11 @@ class Reglages {
   void Oublie(const QString& cle);
 
  private:
+  /// Whether what is changed can be kept. A lock that nobody gives back isn't waited for.
+  bool SEcrit();
+
   std::optional<QSettings> magasin_;
+  std::optional<bool> libre_;  ///< the lock, once it was tried
 };
 
 }  // namespace gastrelle

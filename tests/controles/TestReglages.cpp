@@ -29,6 +29,21 @@ TEST_F(ReglagesAilleurs, SontLusEtEcritsLaOuLeToolkitLesMet) {
   EXPECT_EQ(Reglages().Texte("Essai/Cle"), "");
 }
 
+TEST_F(ReglagesAilleurs, SousLeVerrouDUnAutreSeLisentMaisNeSEcriventPas) {
+  Reglages().Ecrit("Essai/Cle", "valeur");
+  {
+    QFile verrou(Fichier() + ".lock");
+    ASSERT_TRUE(verrou.open(QIODevice::WriteOnly));
+    Reglages reglages;
+    EXPECT_EQ(reglages.Texte("Essai/Cle"), "valeur");
+    reglages.Ecrit("Essai/Cle", "autre");
+    reglages.Oublie("Essai/Cle");
+    ASSERT_TRUE(verrou.remove());
+  }
+  EXPECT_EQ(Reglages().Texte("Essai/Cle"), "valeur");
+  Reglages().Oublie("Essai/Cle");
+}
+
 TEST_F(ReglagesAilleurs, UnFichierTropGrandNeSertPasMaisReste) {
   Reglages().Ecrit("Essai/Cle", "valeur");
   QFile fichier(Fichier());

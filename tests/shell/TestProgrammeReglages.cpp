@@ -53,6 +53,13 @@ TEST_F(ProgrammeEtReglages, UnDossierALaPlaceDuVerrouNonPlus) {
   EXPECT_FALSE(std::filesystem::exists(Fichier()));
 }
 
+TEST_F(ProgrammeEtReglages, UnVerrouQuePersonneNeRendNonPlus) {
+  std::ofstream(Fichier(".lock")) << "à moi";
+  OuvreEtQuitte();
+  EXPECT_FALSE(std::filesystem::exists(Fichier()));
+  EXPECT_TRUE(std::filesystem::exists(Fichier(".lock")));
+}
+
 TEST_F(ProgrammeEtReglages, UnLienVersRienALaPlaceDuVerrouNonPlus) {
   std::filesystem::create_symlink("nulle-part", Fichier(".lock"));
   OuvreEtQuitte();
