@@ -3,11 +3,13 @@
 #include <QDir>
 #include <QFileDialog>
 
+#include "controles/Reglages.h"
 #include "data/ProceduresFichiers.h"
 
 namespace gastrelle {
 
 std::optional<std::string> ChoisitImage(Module1& module, QWidget* parent) {
+  const ReglagesDesDialogues reglages;
   QFileDialog dialogue(parent, QStringLiteral("Rechercher une image"),
                        QString::fromStdString(CheminSysteme(module, module.chemins.De("IMAGE"))));
   dialogue.setObjectName(QStringLiteral("CommonDialog1"));

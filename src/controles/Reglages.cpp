@@ -13,11 +13,15 @@ namespace {
 constexpr qint64 octetsAuPlus = 1'000'000;
 
 /// Where the toolkit keeps the settings of a user.
-QString CheminReglages() {
+QString DossierReglages() {
   const QString dossier = qEnvironmentVariable("XDG_CONFIG_HOME", QStringLiteral(".config"));
   return QDir(QDir::homePath())
-      .absoluteFilePath((dossier.isEmpty() ? QStringLiteral(".config") : dossier) + u'/' +
-                        VersQt(titreApplication) + QStringLiteral(".conf"));
+      .absoluteFilePath(dossier.isEmpty() ? QStringLiteral(".config") : dossier);
+}
+
+/// The file that bears the name of a program.
+QString Chemin(const QString& programme) {
+  return DossierReglages() + u'/' + programme + QStringLiteral(".conf");
 }
 
 /// A small file, or none yet.
@@ -27,24 +31,28 @@ bool SOuvre(const QFileInfo& place) {
 
 /// The toolkit locks the settings with a file beside them while it writes, and waits for that of
 /// another program as long as it is there.
-QString CheminVerrou() {
-  return CheminReglages() + QStringLiteral(".lock");
+QString Verrou(const QString& chemin) {
+  return chemin + QStringLiteral(".lock");
 }
 
-bool Utilisables() {
-  return SOuvre(QFileInfo(CheminReglages())) && SOuvre(QFileInfo(CheminVerrou()));
+bool Utilisables(const QString& chemin) {
+  return SOuvre(QFileInfo(chemin)) && SOuvre(QFileInfo(Verrou(chemin)));
 }
 
 /// Another program may be writing: that takes it a moment.
-bool VerrouLibre() {
+bool VerrouLibre(const QString& chemin) {
   constexpr int unMoment = 100;  // milliseconds
-  return !QFileInfo::exists(CheminVerrou()) || QLockFile(CheminVerrou()).tryLock(unMoment);
+  return !QFileInfo::exists(Verrou(chemin)) || QLockFile(Verrou(chemin)).tryLock(unMoment);
+}
+
+QString CheminDuProgramme() {
+  return Chemin(VersQt(titreApplication));
 }
 
 }  // namespace
 
 Reglages::Reglages() {
-  if (Utilisables()) {
+  if (Utilisables(CheminDuProgramme())) {
     magasin_.emplace(QSettings::UserScope, VersQt(titreApplication));
   }
 }
@@ -55,7 +63,7 @@ QString Reglages::Texte(const QString& cle) const {
 
 bool Reglages::SEcrit() {
   if (!libre_) {
-    libre_ = magasin_ && VerrouLibre();
+    libre_ = magasin_ && VerrouLibre(CheminDuProgramme());
   }
   return *libre_;
 }
@@ -69,6 +77,20 @@ void Reglages::Ecrit(const QString& cle, const QString& texte) {
 void Reglages::Oublie(const QString& cle) {
   if (SEcrit()) {
     magasin_->remove(cle);
+  }
+}
+
+ReglagesDesDialogues::ReglagesDesDialogues() {
+  const QString chemin = Chemin(QStringLiteral("QtProject"));
+  ecartes_ = !Utilisables(chemin) || !VerrouLibre(chemin);
+  if (ecartes_) {
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("/dev/null"));
+  }
+}
+
+ReglagesDesDialogues::~ReglagesDesDialogues() {
+  if (ecartes_) {
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, DossierReglages());
   }
 }
 

@@ -28,4 +28,17 @@ class Reglages {
   std::optional<bool> libre_;  ///< the lock, once it was tried
 };
 
+/// The toolkit's dialogs keep settings of their own. While this lives, and where their file can't
+/// be used, they have none.
+class ReglagesDesDialogues {
+ public:
+  ReglagesDesDialogues();
+  ReglagesDesDialogues(const ReglagesDesDialogues&) = delete;
+  ReglagesDesDialogues& operator=(const ReglagesDesDialogues&) = delete;
+  ~ReglagesDesDialogues();
+
+ private:
+  bool ecartes_ = false;
+};
+
 }  // namespace gastrelle

@@ -5,11 +5,11 @@
 
 #include <QBuffer>
 #include <QFile>
-#include <QFileInfo>
 #include <QImageReader>
 #include <QTransform>
 
 #include "images/ReductionImage.h"
+#include "plateforme/FichierOrdinaire.h"
 
 namespace gastrelle {
 namespace {
@@ -78,16 +78,19 @@ QImage Decode(QImageReader& lecteur, const MesureImage& mesure, const QSize& vou
 }  // namespace
 
 LecteurImage::LecteurImage(const QString& fichier) {
-  // A file, not a name: the reader would also try a name with other endings behind it.
-  auto source = std::make_unique<QFile>(fichier);
-  if (QFileInfo(fichier).isFile() && source->open(QIODevice::ReadOnly)) {
-    source_ = std::move(source);
-    // A look at some bytes here and there reads no more than these.
-    QFile sonde(fichier);
-    if (sonde.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
-      image_ = ReconnaitImage(sonde);
-    }
+  const int numero = OuvreFichierOrdinaire(fichier.toStdU16String());
+  if (numero < 0) {
+    return;
   }
+  // A look at some bytes here and there reads no more than these.
+  QFile sonde;
+  sonde.open(numero, QIODevice::ReadOnly | QIODevice::Unbuffered, QFileDevice::DontCloseHandle);
+  image_ = ReconnaitImage(sonde);
+  sonde.seek(0);
+  // An open file, not a name: the reader would also try a name with other endings behind it.
+  auto source = std::make_unique<QFile>();
+  source->open(numero, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle);
+  source_ = std::move(source);
 }
 
 LecteurImage::LecteurImage(const QByteArray& octets) {

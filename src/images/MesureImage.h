@@ -29,7 +29,7 @@ inline int Cote(qint32 nombre) {
 /// Bytes that all pixels take on the screen, whatever the file has for one; no picture may take
 /// more.
 inline constexpr qint64 octetsParPoint = 4;
-inline constexpr qint64 megaOctet = 1024 * 1024;
+inline constexpr qint64 megaOctet = 1024LL * 1024;
 inline constexpr qint64 pointsAuPlus = 256 * megaOctet;
 
 /// Most that the reading of a picture may take in all.

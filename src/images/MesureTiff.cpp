@@ -40,10 +40,11 @@ class Repertoire {
     octets_.Va(longueurPlace);
     octets_.Va(Nombre(longueurPlace));
     const quint32 nombre = Nombre(2);
+    bool connus = true;
     for (quint32 i = 0; i < nombre && octets_.Juste(); ++i) {
-      LitChamp();
+      connus = LitChamp() && connus;
     }
-    return nombre <= champsAuPlus && octets_.Juste();
+    return connus && nombre <= champsAuPlus && octets_.Juste();
   }
 
   [[nodiscard]] qint64 De(Champ champ, qint64 sinon) const {
@@ -58,12 +59,12 @@ class Repertoire {
     return gros_ ? octets_.GrandBoutien(octets) : octets_.PetitBoutien(octets);
   }
 
-  /// Its value, or the first one of several.
-  void LitChamp() {
+  /// Its value, or the first one of several. False for a type of which the length isn't known.
+  bool LitChamp() {
     const quint32 champ = Nombre(2);
     const quint32 genre = Nombre(2);
-    const qint64 octets = qint64{Nombre(longueurPlace)} *
-                          longueurs.at(std::min<std::size_t>(genre, longueurs.size() - 1));
+    const bool connu = genre < longueurs.size();
+    const qint64 octets = qint64{Nombre(longueurPlace)} * (connu ? longueurs.at(genre) : 1);
     const qint64 place = octets_.Place();
     if (octets > longueurPlace) {
       octets_.Va(Nombre(longueurPlace));
@@ -71,6 +72,7 @@ class Repertoire {
     valeurs_.emplace(champ, Nombre(genre == genreCourt ? 2 : longueurPlace));
     octets_.Va(place + longueurPlace);
     total_ += octets;
+    return connu;
   }
 
   LectureOctets octets_;
@@ -79,17 +81,24 @@ class Repertoire {
   qint64 total_ = 0;
 };
 
-/// The pieces in which the pixels are compressed, each of which is held in whole.
-qint64 OctetsDUnePiece(const Repertoire& champs) {
-  const qint64 large = champs.De(largeurTuile, champs.De(largeur, 0));
-  const qint64 haute =
-      champs.De(hauteurTuile,
-                std::min(champs.De(rangeesParBande, champs.De(hauteur, 0)), champs.De(hauteur, 0)));
+/// A piece of the pixels is held whole.
+qint64 OctetsDUnePiece(const Repertoire& repertoire) {
+  const qint64 large = repertoire.De(largeurTuile, repertoire.De(largeur, 0));
+  const qint64 haute = repertoire.De(
+      hauteurTuile, std::min(repertoire.De(rangeesParBande, repertoire.De(hauteur, 0)),
+                             repertoire.De(hauteur, 0)));
   constexpr qint64 bitsParOctet = 8;
   const double octets = static_cast<double>(large) * static_cast<double>(haute) *
-                        static_cast<double>(champs.De(echantillons, 1)) *
-                        static_cast<double>(champs.De(bits, 1)) / bitsParOctet;
+                        static_cast<double>(repertoire.De(echantillons, 1)) *
+                        static_cast<double>(repertoire.De(bits, 1)) / bitsParOctet;
   return static_cast<qint64>(std::min(octets, static_cast<double>(2 * memoireAuPlus)));
+}
+
+/// And so is what the file has of it: as long as the file says, up to ten times the piece.
+qint64 OctetsCompresses(const Repertoire& repertoire, qint64 piece, qint64 fichier) {
+  constexpr qint64 auPire = 10;
+  constexpr qint64 aisance = 4096;
+  return repertoire.De(compression, 1) == 1 ? 0 : std::min(fichier, auPire * piece + aisance);
 }
 
 bool SeLit(qint64 compression) {
@@ -101,15 +110,16 @@ bool SeLit(qint64 compression) {
 
 std::optional<MesureImage> MesureTiff(QIODevice& fichier) {
   fichier.seek(0);
-  Repertoire champs(fichier);
-  if (!champs.Lit() || !SeLit(champs.De(compression, 1))) {
+  Repertoire repertoire(fichier);
+  if (!repertoire.Lit() || !SeLit(repertoire.De(compression, 1))) {
     return std::nullopt;
   }
   constexpr qint64 bitsOrdinaires = 8;
+  const qint64 piece = OctetsDUnePiece(repertoire);
   return MesureImage{
-      {static_cast<int>(champs.De(largeur, 0)), static_cast<int>(champs.De(hauteur, 0))},
-      octetsParPoint * std::max<qint64>(1, champs.De(bits, 1) / bitsOrdinaires),
-      OctetsDUnePiece(champs) + 2 * champs.octets(),
+      {static_cast<int>(repertoire.De(largeur, 0)), static_cast<int>(repertoire.De(hauteur, 0))},
+      octetsParPoint * std::max<qint64>(1, repertoire.De(bits, 1) / bitsOrdinaires),
+      piece + OctetsCompresses(repertoire, piece, fichier.size()) + 2 * repertoire.octets(),
       Reduction::aucune};
 }
 

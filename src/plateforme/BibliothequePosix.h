@@ -6,8 +6,8 @@
 
 namespace gastrelle {
 
-/// Stays open until the process ends. Looked for in the folders of the system alone, whatever the
-/// environment says.
+/// Stays open until the process ends. Looked for in the folders of the system alone; where the
+/// libraries that it needs are looked for is the system's affair.
 class BibliothequeSysteme {
  public:
   /// `nom`: that of its file, with the version of its interface ("libgio-2.0.so.0").

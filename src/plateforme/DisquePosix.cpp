@@ -4,9 +4,9 @@
 #include <string>
 #include <sys/stat.h>
 #include <unistd.h>
-#include <utility>
 #include <vector>
 
+#include "plateforme/DescripteurPosix.h"
 #include "plateforme/Disque.h"
 #include "plateforme/ErreurExecution.h"
 
@@ -23,27 +23,13 @@ void Exige(int resultat) {
   }
 }
 
-class Descripteur {
- public:
-  explicit Descripteur(int numero) : numero_(numero) {
-    if (numero_ < 0) {
-      Echoue();
-    }
+/// An open file; none is a failure.
+Descripteur Ouverte(int numero) {
+  if (numero < 0) {
+    Echoue();
   }
-  Descripteur(Descripteur&& autre) noexcept : numero_(std::exchange(autre.numero_, -1)) {}
-  Descripteur(const Descripteur&) = delete;
-  Descripteur& operator=(const Descripteur&) = delete;
-  Descripteur& operator=(Descripteur&&) = delete;
-  ~Descripteur() {
-    if (numero_ >= 0) {
-      ::close(numero_);
-    }
-  }
-  [[nodiscard]] int numero() const { return numero_; }
-
- private:
-  int numero_;
-};
+  return Descripteur(numero);
+}
 
 /// What lies under a path: nothing (0), or its kind as `S_IFMT` bits.
 mode_t Nature(const std::filesystem::path& chemin) {
@@ -72,7 +58,7 @@ int NumeroDe(const std::filesystem::path& chemin, int maniere) {
 /// An open file that is a regular one: a pipe, a socket or a device would keep the program waiting,
 /// or take what is written to it elsewhere. It was opened without waiting for anybody.
 Descripteur Ordinaire(int numero) {
-  Descripteur ouvert(numero);
+  Descripteur ouvert = Ouverte(numero);
   struct stat etat {};
   Exige(::fstat(ouvert.numero(), &etat));
   if (!S_ISREG(etat.st_mode)) {
@@ -189,7 +175,7 @@ class Remplacant {
         break;
       }
     }
-    return Descripteur(numero);
+    return Ouverte(numero);
   }
 
   const std::filesystem::path& cible_;

@@ -8,8 +8,8 @@
 #include <sys/socket.h>
 #include <sys/stat.h>
 #include <sys/un.h>
-#include <unistd.h>
 
+#include "plateforme/DescripteurPosix.h"
 #include "plateforme/Instance.h"
 
 namespace gastrelle {
@@ -29,32 +29,15 @@ Prise PriseDe(int resultat, int ailleurs) {
   return errno == ailleurs ? Prise::refusee : Prise::impossible;
 }
 
-/// Closed with the object, and by the system with the process.
-class Numero {
- public:
-  explicit Numero(int valeur) : valeur_(valeur) {}
-  Numero(const Numero&) = delete;
-  Numero& operator=(const Numero&) = delete;
-  ~Numero() {
-    if (valeur_ >= 0) {
-      ::close(valeur_);
-    }
-  }
-  [[nodiscard]] int valeur() const { return valeur_; }
-
- private:
-  int valeur_;
-};
-
 /// A lock on the folder itself, which everybody sees who sees the folder. There is none for those
 /// who may enter the folder but not list it, nor on some file systems.
-Prise VerrouilleDossier(const Numero& dossier) {
-  return PriseDe(::flock(dossier.valeur(), LOCK_EX | LOCK_NB), EWOULDBLOCK);
+Prise VerrouilleDossier(const Descripteur& dossier) {
+  return PriseDe(::flock(dossier.numero(), LOCK_EX | LOCK_NB), EWOULDBLOCK);
 }
 
 /// A name made of the folder's identity, which the system keeps for the process: it asks for no
 /// right and no file, but holds on this machine only.
-Prise ReserveNom(const Numero& prise, const std::filesystem::path& dossier) {
+Prise ReserveNom(const Descripteur& prise, const std::filesystem::path& dossier) {
   struct stat identite {};
   if (::stat(dossier.c_str(), &identite) != 0) {
     return Prise::impossible;
@@ -65,7 +48,7 @@ Prise ReserveNom(const Numero& prise, const std::filesystem::path& dossier) {
   adresse.sun_family = AF_UNIX;
   nom.copy(adresse.sun_path + 1, nom.size());  // behind a null byte: a name, no file
   const auto longueur = static_cast<socklen_t>(offsetof(sockaddr_un, sun_path) + 1 + nom.size());
-  return PriseDe(::bind(prise.valeur(), reinterpret_cast<const sockaddr*>(&adresse), longueur),
+  return PriseDe(::bind(prise.numero(), reinterpret_cast<const sockaddr*>(&adresse), longueur),
                  EADDRINUSE);
 }
 
@@ -84,8 +67,8 @@ class VerrousDossier final : public Instance {
   }
 
  private:
-  Numero dossier_;
-  Numero nom_;
+  Descripteur dossier_;
+  Descripteur nom_;
   std::array<Prise, 2> prises_;
 };
 

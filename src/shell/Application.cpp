@@ -1,5 +1,6 @@
 #include "shell/Application.h"
 
+#include <QFile>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QTranslator>
@@ -7,6 +8,7 @@
 #include "controles/Conversion.h"
 #include "controles/Icones.h"
 #include "controles/StyleGastrelle.h"
+#include "plateforme/DossierProgramme.h"
 
 namespace gastrelle {
 
@@ -17,9 +19,28 @@ void FinSurErreur(const ErreurExecution& erreur, Messages& messages, Pointeur& p
   processus.Termine(1);
 }
 
+namespace {
+
+/// The toolkit would look for plug-ins in the program's own folder as well, and run what it finds
+/// there. It forgets a folder before it starts only if it knew of it.
+int& SansGreffonsDuDossier(int& argc) {
+  constexpr const char* variable = "QT_PLUGIN_PATH";
+  const QByteArray avant = qgetenv(variable);
+  const QString dossier = QString::fromStdU16String(DossierDuProgramme().u16string());
+  qputenv(variable, QFile::encodeName(dossier));
+  QCoreApplication::removeLibraryPath(dossier);
+  avant.isNull() ? qunsetenv(variable) : qputenv(variable, avant);
+  return argc;
+}
+
+}  // namespace
+
 Application::Application(int& argc, char** argv, Messages& messages, Pointeur& pointeur,
                          Processus& processus)
-    : QApplication(argc, argv), messages_(messages), pointeur_(pointeur), processus_(processus) {
+    : QApplication(SansGreffonsDuDossier(argc), argv),
+      messages_(messages),
+      pointeur_(pointeur),
+      processus_(processus) {
   // No display name: the toolkit would put it behind every caption that doesn't end with it.
   setApplicationName(VersQt(titreApplication));
   setDesktopFileName(QStringLiteral("gastrelle"));

@@ -28,13 +28,18 @@ bool LitTete(LectureOctets& octets, Tete& tete) {
   return genre && octets.Juste();
 }
 
+/// What nothing of the help needs and what lays out for minutes: cells that span others, styles of
+/// their own, sizes beyond any page.
+constexpr const char* demesure =
+    "(col|row)span|style\\s*=|<\\s*style|[0-9]{5}|[0-9]{4}(%|px|pt|em|ex|cm|mm|in|pc)";
+
 bool PageSimple(const QByteArray& page) {
   static const QRegularExpression tableau(QStringLiteral("<\\s*table"),
                                           QRegularExpression::CaseInsensitiveOption);
-  static const QRegularExpression etendue(QStringLiteral("(col|row)span"),
-                                          QRegularExpression::CaseInsensitiveOption);
+  static const QRegularExpression refuse(QLatin1String(demesure),
+                                         QRegularExpression::CaseInsensitiveOption);
   const QString texte = QString::fromUtf8(page);
-  return texte.count(tableau) <= tableauxAuPlus && !texte.contains(etendue);
+  return texte.count(tableau) <= tableauxAuPlus && !texte.contains(refuse);
 }
 
 /// A name has its length in letters before it, and a number by which it is found.

@@ -13,6 +13,7 @@
 #include <QSet>
 
 #include "plateforme/ErreurExecution.h"
+#include "plateforme/FichierOrdinaire.h"
 #include "shell/ArbreAide.h"
 
 namespace gastrelle {
@@ -37,8 +38,7 @@ bool SceauJuste(const QByteArray& octets) {
   }
   const QByteArray scelles = Vue(octets, octets.size() - longueurSceau);
   return QCryptographicHash::hash(scelles, QCryptographicHash::Sha256).toHex() ==
-             octets.last(longueurSceau) &&
-         ArbreSain(scelles);
+         octets.last(longueurSceau);
 }
 
 QString Fichier(const QString& sujet) {
@@ -56,14 +56,15 @@ std::unique_ptr<FichierAide> FichierAide::Ouvre(const QString& chemin) {
   if (!QFileInfo(chemin).isFile()) {
     throw ErreurExecution(Panne::fichierIntrouvable);
   }
-  QFile fichier(chemin);
-  if (!fichier.open(QIODevice::ReadOnly)) {
+  QFile fichier;
+  const int numero = OuvreFichierOrdinaire(chemin.toStdU16String());
+  if (numero < 0 || !fichier.open(numero, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle)) {
     throw ErreurExecution(Panne::accesFichier);
   }
   if (fichier.size() > octetsAuPlus) {
     return nullptr;
   }
-  std::unique_ptr<FichierAide> aide(new FichierAide(fichier.readAll()));
+  std::unique_ptr<FichierAide> aide(new FichierAide(fichier.read(octetsAuPlus)));
   return aide->Inscrit() && aide->LitSommaire() ? std::move(aide) : nullptr;
 }
 
@@ -78,7 +79,7 @@ FichierAide::~FichierAide() {
 bool FichierAide::Inscrit() {
   // The toolkit trusts a resource's own offsets: only a file whose every byte is right gets there.
   inscrit_ =
-      SceauJuste(octets_) &&
+      SceauJuste(octets_) && ArbreSain(Vue(octets_, octets_.size() - longueurSceau)) &&
       QResource::registerResource(reinterpret_cast<const uchar*>(octets_.constData()), racine);
   return inscrit_;
 }

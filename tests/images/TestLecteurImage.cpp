@@ -2,12 +2,14 @@
 
 #include <ctime>
 
+#include <QBuffer>
 #include <QImageReader>
 #include <QImageWriter>
 #include <gtest/gtest.h>
 
 #include "doublures/Bibliotheque.h"
 #include "doublures/ImagesEnormes.h"
+#include "images/FormatsImage.h"
 #include "images/LecteurImage.h"
 
 namespace gastrelle::essai {
@@ -46,6 +48,42 @@ class LectureDImages : public testing::Test {
   DossierEssai dossier;
   QSize taille;
 };
+
+TEST_F(LectureDImages, UnCoteQueRienNeMesureEstRefuse) {
+  for (const std::uint32_t cote : {0x7FFFFFFFU, 0x80000000U, 0x80000001U}) {
+    EXPECT_TRUE(Refuse(ImageBmp(2, cote))) << cote;
+    EXPECT_TRUE(Refuse(ImageBmp(cote, 2))) << cote;
+  }
+}
+
+/// The place of a field in `ImageTiff`, counted from 0, and of its value.
+constexpr std::size_t ChampTiff(std::size_t champ) {
+  return 10 + 12 * champ;
+}
+
+TEST_F(LectureDImages, UneBandeComprimeeCompteAvecCeQuElleTientDansLeFichier) {
+  std::string octets = ImageTiff(6200, 6200);
+  octets.replace(ChampTiff(3) + 8, 2, "\x05\x80");  // runs of bytes
+  octets.replace(ChampTiff(8) + 8, 4, "\x80\xB2\xE6\x0E");
+  dossier.Ecrit("image", octets);
+  std::filesystem::resize_file(dossier.chemin() / "image", 250'000'300);
+  EXPECT_TRUE(Lit("image").isNull());
+}
+
+TEST_F(LectureDImages, UnChampDontLaLongueurNEstPasConnueEstRefuse) {
+  for (const char genre : {'\x0E', '\x10', '\x12'}) {
+    std::string octets = ImageTiff(20, 20);
+    QBuffer tampon;
+    tampon.setData(octets.data(), static_cast<int>(octets.size()));
+    ASSERT_TRUE(tampon.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(ReconnaitImage(tampon).has_value());
+    octets[ChampTiff(7) + 2] = genre;
+    QBuffer inconnu;
+    inconnu.setData(octets.data(), static_cast<int>(octets.size()));
+    ASSERT_TRUE(inconnu.open(QIODevice::ReadOnly));
+    EXPECT_FALSE(ReconnaitImage(inconnu).has_value()) << static_cast<int>(genre);
+  }
+}
 
 struct Ecriture {
   const char* nom;

@@ -91,6 +91,18 @@ TEST_F(AideHostile, UnePageTropLongueEstRefusee) {
   EXPECT_FALSE(Refuse(Scelle(ArbreEssai(UnePage(Repete("<li>", 30'000))))));
 }
 
+TEST_F(AideHostile, CeQuiEstDemesureEstRefuse) {
+  for (const char* html :
+       {"<p style=\"line-height:100000000%\">a</p>", "<p STYLE = 'color:red'>a</p>",
+        "< style>p { color: red; }</style>", "<img width=\"99999\">", "<td rowspan=2>"}) {
+    EXPECT_TRUE(Refuse(Scelle(ArbreEssai(UnePage(html))))) << html;
+  }
+  PagesEssai pages = UnePage("<p>Un style de cuisine, en 2005, pour 1 500 personnes.</p>");
+  EXPECT_FALSE(Refuse(Scelle(ArbreEssai(pages))));
+  pages["aide.css"] = "p { font-size: 1000px; }";
+  EXPECT_TRUE(Refuse(Scelle(ArbreEssai(pages))));
+}
+
 TEST_F(AideHostile, LaMemePageNEstPasDeuxFoisAuSommaire) {
   PagesEssai pages = UnePage("<h1>Bonjour</h1>");
   pages["sommaire.json"] =

@@ -126,6 +126,15 @@ TEST_F(ProgrammeHostile, SesBibliothequesNeViennentPasDuDossierCourant) {
   EXPECT_FALSE(piege.A("sautee"));
 }
 
+TEST_F(ProgrammeHostile, SesGreffonsNeViennentPasDeSonDossier) {
+  b.dossier.Ecrit("IMAGE", "x");  // a message, which the plug-in would tell
+  fs::copy(DOSSIER_GREFFONS, b.dossier.chemin(), fs::copy_options::recursive);
+  environnement.remove("QT_PLUGIN_PATH");
+  Lance(programme);
+  EXPECT_EQ(FinitPar("Return", programme, FenetreDe(programme)), 1);
+  EXPECT_THAT(Messages(programme), ElementsAre());
+}
+
 TEST_F(ProgrammeHostile, UnReglageDeLaBoiteAOutilsDansSonDossierNeLArretePas) {
   b.dossier.Ecrit("qt.conf", "[Paths]\nPlugins=/nulle/part\n");
   OuvreEtQuitte();

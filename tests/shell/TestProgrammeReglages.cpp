@@ -87,5 +87,26 @@ TEST_F(ProgrammeEtReglages, UnLienVersUnFichierOrdinaireSertCommeLui) {
   EXPECT_NE(texte.find("MainLeft"), std::string::npos) << texte;
 }
 
+TEST_F(ProgrammeEtReglages, LeChoixDUneImageNAttendPasCeuxDesDialogues) {
+  for (const char* fin : {"", ".lock"}) {
+    SCOPED_TRACE(fin);
+    const std::filesystem::path tuyau = reglages.chemin() / (std::string("QtProject.conf") + fin);
+    ASSERT_EQ(::mkfifo(tuyau.c_str(), S_IRUSR | S_IWUSR), 0);
+    QProcess ouvert;
+    Lance(ouvert);
+    const QString cadre = FenetreDe(ouvert);
+    Outil({"windowfocus", "--sync", cadre});
+    Outil({"key", "ctrl+Next"});
+    Outil({"key", "alt+m"});
+    const QString dialogue = FenetreDe(ouvert, cadre);
+    Outil({"windowfocus", "--sync", dialogue});
+    Outil({"key", "Escape"});
+    EXPECT_EQ(FinitPar("ctrl+q", ouvert, cadre), 0);
+    EXPECT_TRUE(std::filesystem::exists(Fichier()));
+    std::filesystem::remove(tuyau);
+    std::filesystem::remove(Fichier());
+  }
+}
+
 }  // namespace
 }  // namespace gastrelle::essai
