@@ -38,7 +38,7 @@ int main(int argc, char** argv) {
   ChangeSignalEnErreur();
   const int fichiers = FichiersPermis(fichiersUtiles);
   if (fichiers < fichiersUtiles) {
-    std::fprintf(stderr, "%s\n", tropPeuDeFichiers);
+    static_cast<void>(std::fprintf(stderr, "%s\n", tropPeuDeFichiers));
   }
   if (fichiers < fichiersDUnMessage) {
     return EXIT_FAILURE;  // the toolkit itself would give up half way

@@ -10,7 +10,7 @@ namespace gastrelle {
 
 void ChangeSignalEnErreur() {
   // A function, not SIG_IGN: what is ignored stays so in the programs that are opened.
-  std::signal(SIGXFSZ, [](int) {});
+  static_cast<void>(std::signal(SIGXFSZ, [](int) {}));
 }
 
 void GarnitEntreesSorties() {
