@@ -20,7 +20,7 @@ QString DossierReglages() {
 }
 
 /// The file that bears the name of a program.
-QString Chemin(const QString& programme) {
+QString FichierDe(const QString& programme) {
   return DossierReglages() + u'/' + programme + QStringLiteral(".conf");
 }
 
@@ -46,7 +46,7 @@ bool VerrouLibre(const QString& chemin) {
 }
 
 QString CheminDuProgramme() {
-  return Chemin(VersQt(titreApplication));
+  return FichierDe(VersQt(titreApplication));
 }
 
 }  // namespace
@@ -81,7 +81,7 @@ void Reglages::Oublie(const QString& cle) {
 }
 
 ReglagesDesDialogues::ReglagesDesDialogues() {
-  const QString chemin = Chemin(QStringLiteral("QtProject"));
+  const QString chemin = FichierDe(QStringLiteral("QtProject"));
   ecartes_ = !Utilisables(chemin) || !VerrouLibre(chemin);
   if (ecartes_) {
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("/dev/null"));
