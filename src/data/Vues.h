@@ -2,6 +2,7 @@
 // documents and the printed pages need of it. Texts are Windows-1252.
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <variant>
 #include <vector>
@@ -39,8 +40,20 @@ struct VueTruc {
   std::string texte;
 };
 
+/// A year of the vintage chart.
+struct AnneeClassee {
+  int annee;
+  std::int16_t degre;  ///< 0 "Non classé" to 5 "Exceptionnelle"
+};
+
+/// The vintages of one area, the oldest first.
+struct VueMillesimes {
+  std::string cru;
+  std::vector<AnneeClassee> annees;
+};
+
 /// Nothing, or what the tab on display shows.
-using Vue =
-    std::variant<std::monostate, VueRecette, VueFromage, VueFromagesTries, VueMenu, VueTruc>;
+using Vue = std::variant<std::monostate, VueRecette, VueFromage, VueFromagesTries, VueMenu, VueTruc,
+                         VueMillesimes>;
 
 }  // namespace gastrelle

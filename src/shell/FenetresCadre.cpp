@@ -11,6 +11,7 @@
 #include "fromages/frmFromages.h"
 #include "recettes/frmRecettes.h"
 #include "shell/MenusCadre.h"
+#include "vins/frmMillesime.h"
 
 namespace gastrelle {
 namespace {
@@ -32,7 +33,7 @@ constexpr std::array<LigneFenetre, nombreVues> lignes{{
     {EntreeVue::fromages, "mnuViewFromages", CreeFenetre<frmFromages>},
     {EntreeVue::menus, "mnuViewMenus", CreeFenetre<frmMenus>},
     {EntreeVue::vins, "mnuViewVins", nullptr},
-    {EntreeVue::millesimes, "mnuViewMillesimes", nullptr},
+    {EntreeVue::millesimes, "mnuViewMillesimes", CreeFenetre<frmMillesime>},
     {EntreeVue::termesTrucsAstuces, "mnuViewTermesTrucsAstuces", CreeFenetre<frmTrucs>},
     {EntreeVue::favoris, "mnuViewFavoris", nullptr},
     {EntreeVue::mesNotes, "mnuViewMesNotes", nullptr},

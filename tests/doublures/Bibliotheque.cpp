@@ -176,6 +176,22 @@ std::int32_t Bibliotheque::AjouteFiche(Donnees fiches, std::string_view titre,
   return AjouteCompte(dossier, NomPresent(fiches), fiche);
 }
 
+void Bibliotheque::GarnitMillesimes(int annees) {
+  constexpr int nombreDegres = 6;
+  std::string octets;
+  for (int i = 0; i < annees; ++i) {
+    RecMillesime annee;
+    int degre = i;
+    std::apply(
+        [&](const auto&... champ) {
+          ((annee.*champ.membre = static_cast<std::int16_t>(degre++ % nombreDegres)), ...);
+        },
+        champs<RecMillesime>);
+    octets += Octets(annee);
+  }
+  dossier.Ecrit(NomPresent(Donnees::GLMV), octets);
+}
+
 void Bibliotheque::GarnitDeFabrique(const std::filesystem::path& dossierDuProgramme) {
   for (const auto& place : std::filesystem::directory_iterator(dossierDuProgramme)) {
     if (place.path().extension() == ".stp") {
@@ -198,6 +214,7 @@ void Bibliotheque::Garnit() {
     GarnitFiches(fiches);
     AjouteFiche(fiches, "Agape", "Un texte.");
   }
+  GarnitMillesimes();
 }
 
 std::unique_ptr<Module1> Bibliotheque::NouveauModule() {

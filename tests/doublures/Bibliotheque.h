@@ -73,6 +73,10 @@ class Bibliotheque {
   /// A menu or a tip behind the last one.
   std::int32_t AjouteFiche(Donnees fiches, std::string_view titre, std::string_view texte = {});
 
+  /// The vintages from 1928 on, whose grades follow each other from year to year and from area to
+  /// area: 1928 begins with 0, 1, 2, 3, 4, 5, 0, 1, 2.
+  void GarnitMillesimes(int annees = 95);
+
   /// The factory copies of the program's folder in place of the small ones.
   void GarnitDeFabrique(const std::filesystem::path& dossierDuProgramme);
 

@@ -4,6 +4,7 @@
 #include "fiches/frmTrucs.h"
 #include "fromages/frmFromages.h"
 #include "recettes/frmRecettes.h"
+#include "vins/frmMillesime.h"
 
 namespace gastrelle::essai {
 namespace {
@@ -55,6 +56,22 @@ const std::vector<LigneEssai> lignes{
       "cmdAideModifier",
       "txtSaisieNomSupprimer txtSaisieMenuSupprimer cmdSupprimer cmdAideSupprimer"},
      Cree<frmMenus>},
+    {"frmMillesime",
+     "mnuViewMillesimes",
+     "Millesime",
+     51,
+     {},
+     {"ComboCru MSFlexGrid2 cmdAideListe",
+      "OptionBordeauxRouges(5) OptionBordeauxBlancs(5) OptionBourgognesRouges(5) "
+      "OptionBourgognesBlancs(5) OptionCrusDesCotesDuRhone(5) OptionAlsace(5) "
+      "OptionPouillySancerre(5) OptionAnjouTouraineMuscadet(5) OptionCrusDuBeaujolais(5) "
+      "cmdValideAjouter cmdAideAjouter",
+      "OptionBordeauxRougesModifier(5) OptionBordeauxBlancsModifier(0) "
+      "OptionBourgognesRougesModifier(1) OptionBourgognesBlancsModifier(2) "
+      "OptionCrusDesCotesDuRhoneModifier(3) OptionAlsaceModifier(4) "
+      "OptionPouillySancerreModifier(5) OptionAnjouTouraineMuscadetModifier(0) "
+      "OptionCrusDuBeaujolaisModifier(1) cmdValideModifier cmdEffacerModifier cmdAideModifier"},
+     Cree<frmMillesime>},
     {"frmTrucs",
      "mnuViewTermesTrucsAstuces",
      "Tool",

@@ -28,7 +28,6 @@ namespace {
 
 using testing::IsEmpty;
 using testing::IsSupersetOf;
-using testing::Not;
 
 /// A dialog that has been painted goes as soon as it lets itself be closed.
 class Huissier {
@@ -177,6 +176,7 @@ class Promenade : public CadreVrai,
     for (auto* bouton : Utiles<QPushButton>(onglet)) {
       const QString titre = bouton->text().remove(u'&');
       if (QStringList{"Valider", "Afficher", "Supprimer"}.contains(titre)) {
+        supprimes += titre == "Supprimer" ? 1 : 0;
         return Clique(*bouton);
       }
     }
@@ -186,10 +186,11 @@ class Promenade : public CadreVrai,
     Fait([&] { Remplit<ZoneTexte>(onglet); });
     Fait([&] { Conclut(onglet); });
   }
-  /// Each choice of the options of a page, if it has any.
+  /// Each choice of the options of a page, if it has any; of a great many the first ones.
   void SaisitSelonOptions(int onglet) {
+    constexpr std::size_t assez = 8;
     const std::size_t options = Utiles<QRadioButton>(onglet).size();
-    for (std::size_t i = 0; i < std::max<std::size_t>(1, options); ++i) {
+    for (std::size_t i = 0; i < std::clamp<std::size_t>(options, 1, assez); ++i) {
       Fait([&] {
         VaA(onglet);
         if (auto* option = Utile<QRadioButton>(onglet, i)) {
@@ -231,6 +232,7 @@ class Promenade : public CadreVrai,
   Huissier huissier;
   int fins = 0;
   int recherches = 0;
+  int supprimes = 0;
 };
 
 INSTANTIATE_TEST_SUITE_P(Toutes, Promenade,
@@ -253,7 +255,7 @@ TEST_P(Promenade, VaAuBout) {
     EXPECT_EQ(fins, 0);
     EXPECT_GT(recherches, 0);
     EXPECT_THAT(b.messages.vus, IsEmpty());  // nothing was refused
-    EXPECT_THAT(b.messages.questions, Not(IsEmpty()));
+    EXPECT_EQ(b.messages.questions.empty(), supprimes == 0);
     EXPECT_TRUE(b.dossier.A("SAUVE/GLR3.DAT"));
   }
 }
