@@ -1,6 +1,7 @@
 #include "vins/frmMillesimeClassement.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include <QGridLayout>
 #include <QHelpEvent>
@@ -226,18 +227,20 @@ void PanneauClassement::PrendFocus() {
 }
 
 void PanneauClassement::keyPressEvent(QKeyEvent* touche) {
+  const int pas = touche->key() == Qt::Key_Down ? 1 : touche->key() == Qt::Key_Up ? -1 : 0;
   const auto* bouton = qobject_cast<QAbstractButton*>(focusWidget());
-  const auto* ici = bouton == nullptr
-                        ? groupes_.end()
-                        : std::find(groupes_.begin(), groupes_.end(), bouton->group());
-  const bool monte = touche->key() == Qt::Key_Up && ici != groupes_.begin();
-  const bool descend = touche->key() == Qt::Key_Down && ici + 1 < groupes_.end();
-  if (ici == groupes_.end() || !EstTouchePlaine(*touche) || (!monte && !descend)) {
+  if (pas == 0 || bouton == nullptr || !EstTouchePlaine(*touche)) {
     QWidget::keyPressEvent(touche);
     return;
   }
-  Entree(static_cast<std::size_t>(ici - groupes_.begin()) + (monte ? -1 : 1))
-      ->setFocus(monte ? Qt::BacktabFocusReason : Qt::TabFocusReason);
+  const auto ici = std::find(groupes_.begin(), groupes_.end(), bouton->group());
+  const auto vers = std::distance(groupes_.begin(), ici) + pas;
+  if (vers < 0 || vers >= std::ssize(groupes_)) {
+    QWidget::keyPressEvent(touche);
+    return;
+  }
+  Entree(static_cast<std::size_t>(vers))
+      ->setFocus(pas > 0 ? Qt::TabFocusReason : Qt::BacktabFocusReason);
 }
 
 void PanneauClassement::paintEvent(QPaintEvent* /*evenement*/) {

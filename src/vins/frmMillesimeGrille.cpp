@@ -44,9 +44,9 @@ class Dessinateur final : public QStyledItemDelegate {
 };
 
 /// Headings that end in "…" where their column is too narrow.
-class Entetes final : public QHeaderView {
+class LigneEntetes final : public QHeaderView {
  public:
-  explicit Entetes(QWidget* parent) : QHeaderView(Qt::Horizontal, parent) {
+  explicit LigneEntetes(QWidget* parent) : QHeaderView(Qt::Horizontal, parent) {
     setSectionResizeMode(QHeaderView::Fixed);
     setMinimumSectionSize(0);
   }
@@ -131,7 +131,7 @@ GrilleMillesimes::GrilleMillesimes(const QString& nom, QWidget* parent) : QTable
   setCornerButtonEnabled(false);
   setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Expanding);
   verticalHeader()->hide();
-  setHorizontalHeader(new Entetes(this));
+  setHorizontalHeader(new LigneEntetes(this));
   Dispose();
 }
 

@@ -52,7 +52,7 @@ class GrilleMillesimes final : public QTableView {
   /// Of the headings and the years together.
   [[nodiscard]] int NombreRangees() const { return modele_.rowCount() + 1; }
   /// The selected row, 0 for none.
-  [[nodiscard]] int rangee() const { return currentIndex().row() + 1; }
+  [[nodiscard]] int RangeeChoisie() const { return currentIndex().row() + 1; }
   [[nodiscard]] const std::vector<std::int16_t>& degresPoses() const {
     return modele_.degresPoses();
   }

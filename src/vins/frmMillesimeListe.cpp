@@ -30,7 +30,7 @@ frmMillesimeListe::frmMillesimeListe(const PlaceOnglet& place)
   boutons().Aide("cmdAideListe");
   ParcourtAuClavier(*this, *ComboCru);
   ComboCru->surChoix = [this] { AfficheCru(); };
-  MSFlexGrid2->surSelection = [this] { anneeCourante = MSFlexGrid2->rangee(); };
+  MSFlexGrid2->surSelection = [this] { anneeCourante = MSFlexGrid2->RangeeChoisie(); };
 }
 
 void frmMillesimeListe::Dispose() {

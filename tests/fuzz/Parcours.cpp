@@ -20,6 +20,7 @@
 #include "fuzz/Entree.h"
 #include "maintenance/Sauvegarde.h"
 #include "recettes/LectureRecettes.h"
+#include "vins/CatalogueMillesimes.h"
 
 namespace gastrelle::essai {
 namespace {
@@ -48,6 +49,7 @@ class Vie {
         Fromages();
         Fiches(fichiersMenus, bilan_.menus);
         Fiches(fichiersTrucs, bilan_.trucs);
+        Millesimes();
         gueritDisque();
         Courses();
         Essaie([&] { static_cast<void>(MesureRecettes(module_)); });
@@ -163,6 +165,19 @@ class Vie {
       Verifie(texte.size() <= std::size_t{limiteTexte}, "un texte plus long que sa limite");
       return texte;
     });
+  }
+
+  void Millesimes() {
+    for (std::size_t cru = 0; cru < crus.size(); ++cru) {
+      Essaie([&] {
+        const std::vector<std::int16_t> lus = DegresDuCru(module_, cru);
+        Verifie(std::ssize(lus) == NombreAnnees(module_), "plus ou moins de degrés que d'années");
+        Verifie(std::all_of(lus.begin(), lus.end(), EstUnDegre), "un degré hors de l'échelle");
+      });
+    }
+    for (const std::int32_t numero : Numeros({})) {
+      Essaie([&] { static_cast<void>(LitAnnee(module_, numero)); });
+    }
   }
 
   /// The header counts what the list holds, and every entry bears the number of a record.

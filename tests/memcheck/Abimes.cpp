@@ -105,7 +105,8 @@ void PoseOctets(const DossierEssai& dossier) {
   }
 }
 
-/// Cheeses of milks and months that don't exist, recipes of families that don't.
+/// Cheeses of milks and months that don't exist, recipes of families that don't, years of grades
+/// that are on no scale.
 void PoseCodes(const DossierEssai& dossier) {
   constexpr std::size_t unSur = 6;
   constexpr std::array<std::int16_t, 4> codes{-1, 13, 32'767, -32'768};
@@ -114,6 +115,12 @@ void PoseCodes(const DossierEssai& dossier) {
     if (hasard.UneFoisSur(unSur)) {
       fromage.lait = Un(codes, hasard);
       fromage.dernierMois = Un(codes, hasard);
+    }
+  });
+  ChaqueFiche<RecMillesime>(dossier, Donnees::GLMV, [&](RecMillesime& annee) {
+    if (hasard.UneFoisSur(unSur)) {
+      annee.bordeauxRouges = Un(codes, hasard);
+      annee.alsace = Un(codes, hasard);
     }
   });
   ChaqueFiche<RecRecette>(dossier, Donnees::GLR2, [&](RecRecette& recette) {

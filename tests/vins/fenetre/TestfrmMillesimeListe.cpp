@@ -210,6 +210,12 @@ TEST_F(ListeDesMillesimes, UneTuileEtroiteGardeLesAnneesEtLesDegresEnVue) {
             "Exceptionnelle");
 }
 
+TEST_F(ListeDesMillesimes, LInfobulleDeLaGrilleSeVoitSurSesCases) {
+  Ouvre();
+  EXPECT_EQ(Infobulle(*grille().viewport(), {100, 50}),
+            Fr("Sélectionner une année pour modifier son classement"));
+}
+
 TEST_F(ListeDesMillesimes, LaBandeCompteLesAnneesEntieres) {
   b.dossier.Ecrit("GLMV.DAT", std::string(32'000, '\0'));
   Ouvre();
