@@ -7,6 +7,7 @@
 #include "data/CatalogueFichiers.h"
 #include "data/Enregistrements.h"
 #include "data/Texte1252.h"
+#include "vins/Cave.h"
 
 namespace gastrelle::bancs {
 namespace {
@@ -61,6 +62,39 @@ void EcritGrandeBibliotheque(const std::filesystem::path& dossier, int nombre) {
   Ecrit(dossier, Donnees::GLR2, recettes);
   Ecrit(dossier, Donnees::GLR3, textes);
   Ecrit(dossier, Donnees::GLR4, std::string(Signature(Donnees::GLR4)));
+}
+
+void EcritGrandeCave(const std::filesystem::path& dossier) {
+  constexpr std::uint32_t graine = 1855;
+  constexpr int nombreRegions = 27;
+  Titres titres(graine);
+
+  std::string regions = Entete<RecRegion>(Donnees::GLV1, nombreRegions);
+  for (int i = 0; i < nombreRegions; ++i) {
+    RecRegion region;
+    region.actif = vivant;
+    region.nomRegion = titres.Titre();
+    regions += Octets(region);
+  }
+  std::string vins = Entete<RecVin>(Donnees::GLV2, nombreVins);
+  std::string textes(Signature(Donnees::GLV3));
+  for (int i = 0; i < nombreVins; ++i) {
+    const std::string note = titres.Texte();
+    RecVin vin;
+    vin.actif = vivant;
+    vin.nomVin = titres.Titre();
+    vin.idRegion = 2 + i % nombreRegions;
+    for (const CouleurVin& couleur : couleursVin) {
+      vin.*couleur.nombre = static_cast<std::int16_t>(1 + i % 100);
+    }
+    vin.posTexte = static_cast<std::int32_t>(textes.size()) + 1;
+    vin.lgTexte = static_cast<std::int32_t>(note.size());
+    vins += Octets(vin);
+    textes += note;
+  }
+  Ecrit(dossier, Donnees::GLV1, regions);
+  Ecrit(dossier, Donnees::GLV2, vins);
+  Ecrit(dossier, Donnees::GLV3, textes);
 }
 
 }  // namespace gastrelle::bancs

@@ -1,13 +1,8 @@
 // How long the recipes window takes to fill its list with 32,766 recipes, against one plain read of
 // the file and one plain sort of its names, in turns in the same run.
 
-#include <algorithm>
-#include <fcntl.h>
 #include <stdexcept>
 #include <string>
-#include <sys/stat.h>
-#include <unistd.h>
-#include <vector>
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -15,10 +10,10 @@
 
 #include "GrandeBibliotheque.h"
 #include "Lancement.h"
+#include "Plancher.h"
 #include "Releve.h"
 #include "controles/ComboListe.h"
 #include "data/Main.h"
-#include "data/Texte1252.h"
 #include "doublures/Bibliotheque.h"
 #include "doublures/CadreEssai.h"
 #include "plateforme/Disque.h"
@@ -32,32 +27,6 @@ constexpr double cible = 1.5;
 constexpr double cibleAlpha = 1.4;
 constexpr int tours = 41;
 constexpr std::int32_t laFamille = 2;
-
-/// The floor: the names of all recipes of the family, in byte order.
-std::vector<std::string> LitEtTrie(const std::filesystem::path& fichier) {
-  const int descripteur = ::open(fichier.c_str(), O_RDONLY | O_CLOEXEC);
-  struct stat etat {};
-  if (descripteur < 0 || ::fstat(descripteur, &etat) != 0) {
-    throw std::runtime_error("impossible de lire " + fichier.string());
-  }
-  std::string octets(static_cast<std::size_t>(etat.st_size), '\0');
-  const ssize_t lus = ::pread(descripteur, octets.data(), octets.size(), 0);
-  ::close(descripteur);
-  if (lus != etat.st_size) {
-    throw std::runtime_error("lecture incomplète de " + fichier.string());
-  }
-  constexpr std::size_t longueur = longueurEnregistrement<RecRecette>;
-  std::vector<std::string> noms;
-  RecRecette recette;
-  for (std::size_t debut = longueur; debut + longueur <= octets.size(); debut += longueur) {
-    Decode(recette, octets.data() + debut);
-    if (recette.actif == vivant && recette.idFamille == laFamille) {
-      noms.emplace_back(Rogne(recette.nomRecette.brut()));
-    }
-  }
-  std::sort(noms.begin(), noms.end());
-  return noms;
-}
 
 ComboListe& Combo(QWidget& fenetre, const char* nom) {
   auto* combo = dynamic_cast<ComboListe*>(fenetre.findChild<QComboBox*>(QLatin1String(nom)));
@@ -91,7 +60,11 @@ void Tour(Releves& releves, const std::filesystem::path& fichier, Module1& modul
   ComboListe& familles = Combo(fenetre, "ComboFamilles");
   ComboListe& recettes = Combo(fenetre, "ComboRecettes");
   std::size_t attendues = 0;
-  releves.plancher.Mesure([&] { attendues = LitEtTrie(fichier).size(); });
+  releves.plancher.Mesure([&] {
+    attendues = LitEtTrie<RecRecette>(fichier, [](const RecRecette& r) {
+                  return r.idFamille == laFamille;
+                }).size();
+  });
   releves.evenement.Mesure([&] { familles.Choisit(0); });
   releves.peinture.Mesure([] { QApplication::processEvents(); });
   Exige(attendues == nombreRecettes && recettes.entrees().size() == attendues,

@@ -38,6 +38,8 @@ template <class T>
 class FichierEnregistrements {
  public:
   static constexpr std::int64_t longueur = longueurEnregistrement<T>;
+  /// How many records are fetched with one read.
+  static constexpr std::int64_t parBloc = std::max<std::int64_t>(1, (1 << 16) / longueur);
 
   /// `place` is where the shared state keeps the open file; it may be opened and closed later.
   explicit FichierEnregistrements(const std::unique_ptr<Fichier>& place) : place_(place) {}
@@ -51,6 +53,13 @@ class FichierEnregistrements {
     std::array<char, longueurEnregistrement<T>> octets{};
     Ouvert(place_).Lit(Decalage(numero), octets);
     Decode(vers, octets.data());
+  }
+
+  /// Reads the bytes of `nombre` records from `premier` on; what lies beyond the end of the file
+  /// reads as zeros.
+  void LitBloc(std::int64_t premier, std::int64_t nombre, std::vector<char>& bloc) {
+    bloc.assign(static_cast<std::size_t>(nombre * longueur), '\0');
+    Ouvert(place_).Lit(Decalage(premier), bloc);
   }
 
   /// Writes record `numero`, also beyond the end.
@@ -127,18 +136,11 @@ class FichierEnregistrements {
   }
 
  private:
-  static constexpr std::int64_t parBloc = std::max<std::int64_t>(1, (1 << 16) / longueur);
-
   static std::int64_t Decalage(std::int64_t numero) {
     if (numero < 1) {
       throw ErreurExecution(Panne::numeroEnregistrement);
     }
     return (numero - 1) * longueur;
-  }
-
-  void LitBloc(std::int64_t premier, std::int64_t nombre, std::vector<char>& bloc) {
-    bloc.assign(static_cast<std::size_t>(nombre * longueur), '\0');
-    Ouvert(place_).Lit(Decalage(premier), bloc);
   }
 
   const std::unique_ptr<Fichier>& place_;

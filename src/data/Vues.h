@@ -2,6 +2,7 @@
 // documents and the printed pages need of it. Texts are Windows-1252.
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <string>
 #include <variant>
@@ -35,6 +36,30 @@ struct VueMenu {
   std::string texte;
 };
 
+struct VueVin {
+  std::string nom;
+  std::string region;
+  std::string notes;
+};
+
+struct VueVinsTries {
+  std::string region;  ///< empty while no region is chosen
+  std::vector<std::string> vins;
+};
+
+/// The bottles of one wine, as the boxes show them.
+struct VueCaveDuVin {
+  std::string nom;
+  std::string region;
+  std::array<std::string, 9> bouteilles;  ///< by colour
+  std::string notes;
+};
+
+/// The report of the whole cellar.
+struct VueCave {
+  std::vector<std::string> lignes;
+};
+
 struct VueTruc {
   std::string titre;
   std::string texte;
@@ -53,7 +78,7 @@ struct VueMillesimes {
 };
 
 /// Nothing, or what the tab on display shows.
-using Vue = std::variant<std::monostate, VueRecette, VueFromage, VueFromagesTries, VueMenu, VueTruc,
-                         VueMillesimes>;
+using Vue = std::variant<std::monostate, VueRecette, VueFromage, VueFromagesTries, VueMenu, VueVin,
+                         VueVinsTries, VueCaveDuVin, VueCave, VueMillesimes, VueTruc>;
 
 }  // namespace gastrelle

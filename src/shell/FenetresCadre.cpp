@@ -12,6 +12,7 @@
 #include "recettes/frmRecettes.h"
 #include "shell/MenusCadre.h"
 #include "vins/frmMillesime.h"
+#include "vins/frmVins.h"
 
 namespace gastrelle {
 namespace {
@@ -32,7 +33,7 @@ constexpr std::array<LigneFenetre, nombreVues> lignes{{
     {EntreeVue::recettes, "mnuViewRecettes", CreeFenetre<frmRecettes>},
     {EntreeVue::fromages, "mnuViewFromages", CreeFenetre<frmFromages>},
     {EntreeVue::menus, "mnuViewMenus", CreeFenetre<frmMenus>},
-    {EntreeVue::vins, "mnuViewVins", nullptr},
+    {EntreeVue::vins, "mnuViewVins", CreeFenetre<frmVins>},
     {EntreeVue::millesimes, "mnuViewMillesimes", CreeFenetre<frmMillesime>},
     {EntreeVue::termesTrucsAstuces, "mnuViewTermesTrucsAstuces", CreeFenetre<frmTrucs>},
     {EntreeVue::favoris, "mnuViewFavoris", nullptr},

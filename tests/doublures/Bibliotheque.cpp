@@ -70,6 +70,11 @@ void AjouteTexte(const DossierEssai& dossier, const std::string& nom, std::strin
   }
 }
 
+/// A name with its record number in three digits.
+std::string NomDeFabrique(std::string_view debut, int numero) {
+  return std::string(debut) + std::to_string(1000 + numero).substr(1);
+}
+
 }  // namespace
 
 DossierEssai::DossierEssai(const std::string& nom) {
@@ -142,7 +147,7 @@ void Bibliotheque::GarnitFromages() {
   for (int numero = 2; numero <= DernierProtege(Donnees::GLF1); ++numero) {
     RecFromage fromage;
     fromage.actif = vivant;
-    fromage.nomFromage = "Fromage " + std::to_string(1000 + numero).substr(1);
+    fromage.nomFromage = NomDeFabrique("Fromage ", numero);
     fromage.lait = 1;
     octets += Octets(fromage);
   }
@@ -160,7 +165,7 @@ void Bibliotheque::GarnitFiches(Donnees fiches) {
   for (int numero = 2; numero <= DernierProtege(fiches); ++numero) {
     RecFiche fiche;
     fiche.actif = vivant;
-    fiche.titre = "Fiche " + std::to_string(1000 + numero).substr(1);
+    fiche.titre = NomDeFabrique("Fiche ", numero);
     octets += Octets(fiche);
   }
   dossier.Ecrit(NomPresent(fiches), octets);
@@ -174,6 +179,43 @@ std::int32_t Bibliotheque::AjouteFiche(Donnees fiches, std::string_view titre,
   fiche.titre = titre;
   AjouteTexte(dossier, NomPresent(textes), texte, {fiche.posTexte, fiche.lgTexte});
   return AjouteCompte(dossier, NomPresent(fiches), fiche);
+}
+
+void Bibliotheque::GarnitVins() {
+  const std::int32_t derniereRegion = DernierProtege(Donnees::GLV1);
+  std::string octets = FabriqueVide(Donnees::GLV1);
+  for (int numero = 2; numero <= derniereRegion; ++numero) {
+    RecRegion region;
+    region.actif = vivant;
+    region.nomRegion = NomDeFabrique("Région "_1252, numero);
+    octets += Octets(region);
+  }
+  dossier.Ecrit(NomPresent(Donnees::GLV1), octets);
+  octets = FabriqueVide(Donnees::GLV2);
+  for (int numero = 2; numero <= DernierProtege(Donnees::GLV2); ++numero) {
+    RecVin vin;
+    vin.actif = vivant;
+    vin.nomVin = NomDeFabrique("Vin ", numero);
+    vin.idRegion = 2 + (numero - 2) % (derniereRegion - 1);
+    octets += Octets(vin);
+  }
+  dossier.Ecrit(NomPresent(Donnees::GLV2), octets);
+}
+
+std::int32_t Bibliotheque::AjouteRegion(std::string_view nom) {
+  RecRegion region;
+  region.actif = vivant;
+  region.nomRegion = nom;
+  return AjouteCompte(dossier, NomPresent(Donnees::GLV1), region);
+}
+
+std::int32_t Bibliotheque::AjouteVin(RecVin vin, std::string_view notes,
+                                     std::string_view notesCave) {
+  vin.actif = vivant;
+  const std::string reserve = NomPresent(Donnees::GLV3);
+  AjouteTexte(dossier, reserve, notes, {vin.posTexte, vin.lgTexte});
+  AjouteTexte(dossier, reserve, notesCave, {vin.posNotesCave, vin.lgNotesCave});
+  return AjouteCompte(dossier, NomPresent(Donnees::GLV2), vin);
 }
 
 void Bibliotheque::GarnitMillesimes(int annees) {
@@ -210,6 +252,12 @@ void Bibliotheque::Garnit() {
   fromage.nomFromage = "Abondance";
   fromage.regionFromage = "Savoie";
   AjouteFromage(fromage, "Des notes.");
+  GarnitVins();
+  RecVin vin;
+  vin.nomVin = "Abymes";
+  vin.idRegion = AjouteRegion("Alpes");
+  vin.nbBlanc = 6;
+  AjouteVin(vin, "Des notes.", "En haut.");
   for (const Donnees fiches : {Donnees::GLM1, Donnees::GLT1}) {
     GarnitFiches(fiches);
     AjouteFiche(fiches, "Agape", "Un texte.");

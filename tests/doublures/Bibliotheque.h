@@ -73,6 +73,13 @@ class Bibliotheque {
   /// A menu or a tip behind the last one.
   std::int32_t AjouteFiche(Donnees fiches, std::string_view titre, std::string_view texte = {});
 
+  /// The 27 regions of the factory, "Région 002" to "Région 028", and its 563 wines, "Vin 002" to
+  /// "Vin 564", after their record numbers: in turn in each region, without a note or a bottle.
+  void GarnitVins();
+  /// A region behind the last one.
+  std::int32_t AjouteRegion(std::string_view nom);
+  /// A wine behind the last one: `actif` and the references of its texts are set here.
+  std::int32_t AjouteVin(RecVin vin, std::string_view notes = {}, std::string_view notesCave = {});
   /// The vintages from 1928 on, whose grades follow each other from year to year and from area to
   /// area: 1928 begins with 0, 1, 2, 3, 4, 5, 0, 1, 2.
   void GarnitMillesimes(int annees = 95);

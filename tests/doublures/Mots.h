@@ -73,6 +73,15 @@ class Mots : public FenetreEssai<Fenetre> {
     }
   }
 
+  /// Buttons and options: what stands on them, without the mark of the access key, and the tooltip.
+  void AttendBoutons(std::initializer_list<ControleAttendu> boutons) {
+    for (const ControleAttendu& bouton : boutons) {
+      const QWidget& widget = this->Le(bouton.nom);
+      EXPECT_EQ(Texte(widget).remove(u'&'), Fr(bouton.legende)) << bouton.nom;
+      EXPECT_EQ(widget.toolTip(), Fr(bouton.infobulle)) << bouton.nom;
+    }
+  }
+
   void AttendInfobulles(std::initializer_list<std::pair<const char*, const char*>> infobulles) {
     for (const auto& [nom, infobulle] : infobulles) {
       EXPECT_EQ(this->Le(nom).toolTip(), Fr(infobulle)) << nom;

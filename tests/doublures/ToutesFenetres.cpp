@@ -5,6 +5,7 @@
 #include "fromages/frmFromages.h"
 #include "recettes/frmRecettes.h"
 #include "vins/frmMillesime.h"
+#include "vins/frmVins.h"
 
 namespace gastrelle::essai {
 namespace {
@@ -56,6 +57,24 @@ const std::vector<LigneEssai> lignes{
       "cmdAideModifier",
       "txtSaisieNomSupprimer txtSaisieMenuSupprimer cmdSupprimer cmdAideSupprimer"},
      Cree<frmMenus>},
+    {"frmVins",
+     "mnuViewVins",
+     "Vin",
+     41,
+     {{5, 3}, {5, 4}, {5, 6}},
+     {"ComboVins txtRegion txtNotes cmdAideListe",
+      "Option1(0) Option1(1) txtSaisieNomVin ComboRegionVinAjouter txtSaisieNoteAjouter "
+      "cmdValideAjouter cmdEffacerAjouter cmdAideAjouter",
+      "Option2(0) Option2(1) txtSaisieNomVinModifier ComboRegionVinModifier(1) "
+      "txtSaisieNoteModifier cmdValideModifier cmdEffacerModifier cmdAideModifier",
+      "Option3(0) Option3(1) txNomVinSupprimer txtRegionVinSupprimer txtNoteVinSupprimer "
+      "cmdValideSupprimer cmdAideSupprimer",
+      "ComboRegionVinTrier cmdAideTrier",
+      "txtVinCave txtRegionCave txtSaisieBlanc txtSaisieRouge txtSaisieRose txtSaisieChampagne "
+      "txtSaisieVDN txtSaisieJaune txtSaisiePaille txtSaisieMousseux txtSaisieGris txtNotesCave "
+      "cmdValideCave cmdEffacerCave cmdAideCave",
+      "List1 cmdAideTouteMaCave"},
+     Cree<frmVins>},
     {"frmMillesime",
      "mnuViewMillesimes",
      "Millesime",

@@ -66,6 +66,28 @@ std::string Fiche(std::string_view titre, LigneRayon texte = {}) {
   return Octets(fiche);
 }
 
+std::string Region(std::string_view nom) {
+  RecRegion region;
+  region.actif = vivant;
+  region.nomRegion = nom;
+  return Octets(region);
+}
+
+std::string Vin(std::string_view nom, std::int32_t region, std::int16_t blanc, std::int16_t gris,
+                LigneRayon notes = {}, LigneRayon notesCave = {}) {
+  RecVin vin;
+  vin.actif = vivant;
+  vin.nomVin = nom;
+  vin.idRegion = region;
+  vin.nbBlanc = blanc;
+  vin.nbGris = gris;
+  vin.posTexte = notes.posTexte;
+  vin.lgTexte = notes.lgTexte;
+  vin.posNotesCave = notesCave.posTexte;
+  vin.lgNotesCave = notesCave.lgTexte;
+  return Octets(vin);
+}
+
 /// References that lead out of their pool, or nowhere.
 constexpr std::array<LigneRayon, 9> referencesFolles{{{1, demesure},
                                                       {demesure, demesure},
@@ -163,6 +185,33 @@ Dossier AutresReferences() {
   return d;
 }
 
+/// Two regions and three wines, the first with bottles and both its texts; a deleted one between.
+Dossier VinsEtCave() {
+  Dossier d;
+  RecVin parti;
+  parti.nomVin = "Parti";
+  parti.idRegion = 2;
+  parti.nbBlanc = 1;
+  d.fichiers[Donnees::GLV1] = Mot(27) + Region("Alpes") + Region("Rhône"_1252);
+  d.fichiers[Donnees::GLV2] = Mot(563) + Vin("Abymes", 2, 6, 2, {9, 10}, {19, 8}) + Octets(parti) +
+                              Vin("Crépy"_1252, 2, 0, 0) + Vin("Gigondas", 3, 0, 0);
+  d.fichiers[Donnees::GLV3] = "Dix octetsEn haut.";
+  return d;
+}
+
+/// The mad references in both texts of a wine, and as its region; bottles at their extremes.
+Dossier VinsFous() {
+  using Bornes = std::numeric_limits<std::int16_t>;
+  Dossier d = VinsEtCave();
+  std::string vins = Mot(563);
+  for (const LigneRayon& folle : referencesFolles) {
+    vins += Vin("Note", 2, Bornes::max(), Bornes::max(), folle) +
+            Vin("Cave", 2, Bornes::min(), 1, {}, folle) + Vin("Nulle part", folle.posTexte, 1, 0);
+  }
+  d.fichiers[Donnees::GLV2] = vins;
+  return d;
+}
+
 /// Milks and months that no table holds, after one cheese that is right.
 Dossier CodesFaux() {
   using Bornes = std::numeric_limits<std::int16_t>;
@@ -225,6 +274,7 @@ Dossier Rayons() {
 Dossier Tronque() {
   Dossier d = DeuxFamilles();
   d.fichiers.merge(AutresCatalogues().fichiers);
+  d.fichiers.merge(VinsEtCave().fichiers);
   for (auto& [fichier, octets] : d.fichiers) {
     octets.resize(octets.size() - octets.size() / 3);
   }
@@ -235,8 +285,9 @@ Dossier ReduitesAuxEntetes() {
   Dossier d = DeuxFamilles();
   d.fichiers[Donnees::GLR1].resize(2);
   d.fichiers[Donnees::GLR2].resize(2);
-  for (const Donnees fichier : {Donnees::GLF1, Donnees::GLM1, Donnees::GLT1}) {
-    d.fichiers[fichier] = Mot(200);
+  for (const Donnees fichier :
+       {Donnees::GLF1, Donnees::GLM1, Donnees::GLV1, Donnees::GLV2, Donnees::GLT1}) {
+    d.fichiers[fichier] = Mot(600);
   }
   return d;
 }
@@ -281,6 +332,8 @@ std::vector<Graine> GrainesEnMemoire() {
       {"autres-catalogues", AutresCatalogues().octets()},
       {"autres-references", AutresReferences().octets()},
       {"codes-faux", CodesFaux().octets()},
+      {"vins-et-cave", VinsEtCave().octets()},
+      {"vins-fous", VinsFous().octets()},
       {"images", Images().octets()},
       {"tous-les-octets", TousLesOctets().octets()},
       {"rayons", Rayons().octets()},

@@ -21,6 +21,8 @@
 #include "maintenance/Sauvegarde.h"
 #include "recettes/LectureRecettes.h"
 #include "vins/CatalogueMillesimes.h"
+#include "vins/CatalogueVins.h"
+#include "vins/VinsEssai.h"
 
 namespace gastrelle::essai {
 namespace {
@@ -50,6 +52,9 @@ class Vie {
         Fiches(fichiersMenus, bilan_.menus);
         Fiches(fichiersTrucs, bilan_.trucs);
         Millesimes();
+        Vins();
+        Cave();
+        ChangeLesVins();
         gueritDisque();
         Courses();
         Essaie([&] { static_cast<void>(MesureRecettes(module_)); });
@@ -178,6 +183,89 @@ class Vie {
     for (const std::int32_t numero : Numeros({})) {
       Essaie([&] { static_cast<void>(LitAnnee(module_, numero)); });
     }
+  }
+
+  void Vins() {
+    Essaie([&] {
+      bilan_.regions = ListeRegions(module_);
+      Verifie(bilan_.regions.size() <= static_cast<std::size_t>(module_.bufRegion.nbActifs()),
+              "plus de régions listées que comptées");
+    });
+    Lus& lus = bilan_.vins;
+    Essaie([&] {
+      lus.liste = ListeVins(module_);
+      VerifieListe(lus.liste, module_.bufVin);
+    });
+    LitTout(lus, [&](std::int32_t numero) {
+      const VinLu lu = LitVin(module_, numero);
+      const std::int32_t sienne = LitRegionDuVin(module_, numero);
+      Verifie(lu.region.size() <= RecRegion().nomRegion.largeur, "une région trop longue");
+      Verifie(sienne >= 1, "un vin lu avec une région sans numéro");
+      return lu.notes + lu.notesCave;
+    });
+    for (const std::int32_t region : Numeros(bilan_.regions)) {
+      Essaie([&] {
+        const Liste vins = VinsDeLaRegion(module_, region);
+        Verifie(vins.size() <= static_cast<std::size_t>(module_.bufVin.nbActifs()),
+                "plus de vins d'une région que de vins");
+      });
+    }
+  }
+
+  void Cave() {
+    Essaie([&] {
+      Liste enCave = VinsEnCave(module_);
+      TrieFrancais(enCave);
+      bilan_.cave = LignesDuRapport(module_, enCave);
+      Verifie(enCave.empty() ? bilan_.cave.size() == 1
+                             : bilan_.cave.back().starts_with("... Total .......... "),
+              "un rapport qui ne finit pas par son total");
+    });
+  }
+
+  /// A wine comes, changes and goes with its region; then those of the input change and go.
+  void ChangeLesVins() {
+    const std::string longues(40, 'n');
+    bilan_.vinPasse = Essaie([&] {
+      const std::int32_t region = AjouteRegion(module_, "Passage");
+      RenommeRegion(module_, region, "Halte");
+      const std::int32_t vin = AjouteVin(module_, {"Passant", region, "Une note."});
+      Verifie(LitVin(module_, vin).region == "Halte", "un vin ajouté dans une autre région");
+      ChangeVin(module_, vin, {"Passante", region, longues});
+      Verifie(LitVin(module_, vin).notes == longues, "une note qui se relit autrement");
+      SupprimeRegion(module_, region);
+      LitRegionDuVin(module_, vin);
+      Verifie(module_.bufVin.courant().actif == supprime, "un vin qui survit à sa région");
+    });
+    for (const EntreeListe& vin : bilan_.vins.liste) {
+      Essaie([&] {
+        ChangeUnVin(vin, longues);
+        ++bilan_.vinsChanges;
+      });
+    }
+    for (const EntreeListe& region : bilan_.regions) {
+      Essaie([&] { RenommeRegion(module_, region.numero, region.texte); });
+    }
+    if (!bilan_.regions.empty()) {
+      Essaie([&] { SupprimeRegion(module_, bilan_.regions.front().numero); });
+    }
+  }
+
+  /// Its note, its bottles and the note on them, short and then longer, none at last; then it goes.
+  void ChangeUnVin(const EntreeListe& vin, const std::string& longues) {
+    const std::int32_t region = LitRegionDuVin(module_, vin.numero);
+    const RecVin& lu = module_.bufVin.courant();
+    // A text far behind the end of its pool would make a file of that length.
+    if (std::max(lu.posTexte, lu.posNotesCave) > DisqueMemoire::capacite) {
+      throw ErreurExecution(Panne::disquePlein);
+    }
+    const std::string notesCave = longues + vin.texte;
+    Essaie([&] { ChangeVin(module_, vin.numero, {vin.texte, region, "n"}); });
+    Essaie([&] { ChangeVin(module_, vin.numero, {vin.texte, region, longues}); });
+    Essaie([&] { EcritCave(module_, vin.numero, Bouteilles{1, 2, 3}, "c"); });
+    Essaie([&] { EcritCave(module_, vin.numero, BouteillesCourantes(module_), notesCave); });
+    Essaie([&] { EcritCave(module_, vin.numero, Bouteilles{}, ""); });
+    SupprimeVin(module_, vin.numero);
   }
 
   /// The header counts what the list holds, and every entry bears the number of a record.

@@ -1,5 +1,6 @@
 // One life of the program on the folder of an input: the start, every list, every recipe, cheese,
-// menu and tip, the aisle texts and their rewriting, the measure of the dead space, the backup.
+// menu, tip and wine, the cellar, the changes of the wines, the aisle texts and their rewriting,
+// the measure of the dead space, the backup.
 #pragma once
 
 #include <optional>
@@ -28,9 +29,14 @@ struct Bilan {
   Lus fromages;
   Lus menus;
   Lus trucs;
-  std::size_t pannes = 0;  ///< steps that ended in an ErreurExecution
-  std::size_t rayons = 0;  ///< aisles with a text
-  bool copie = false;      ///< the backup was made
+  Liste regions;
+  Lus vins;                       ///< their notes, then their notes on the cellar
+  std::vector<std::string> cave;  ///< the report
+  bool vinPasse = false;          ///< one was added, changed, and deleted with its region
+  std::size_t vinsChanges = 0;    ///< those of the input that were changed and deleted
+  std::size_t pannes = 0;         ///< steps that ended in an ErreurExecution
+  std::size_t rayons = 0;         ///< aisles with a text
+  bool copie = false;             ///< the backup was made
   std::vector<std::string> messages;
 };
 

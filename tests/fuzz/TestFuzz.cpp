@@ -112,6 +112,33 @@ TEST(Corpus, LesAutresCataloguesReduitsAuxEntetesSontVides) {
   EXPECT_THAT(bilan.fromages.liste, IsEmpty());
   EXPECT_THAT(bilan.menus.liste, IsEmpty());
   EXPECT_THAT(bilan.trucs.liste, IsEmpty());
+  EXPECT_THAT(bilan.regions, IsEmpty());
+  EXPECT_THAT(bilan.vins.liste, IsEmpty());
+  EXPECT_THAT(bilan.cave, ElementsAre("Votre cave est vide !"));
+}
+
+TEST(Corpus, LesVinsEtLaCaveSontLusEtChanges) {
+  const Bilan bilan = Graine("vins-et-cave");
+  EXPECT_THAT(bilan.regions,
+              ElementsAre(EntreeListe{"Alpes", 2}, EntreeListe{std::string("Rhône"_1252), 3}));
+  EXPECT_THAT(bilan.vins.liste,
+              ElementsAre(EntreeListe{"Abymes", 2}, EntreeListe{std::string("Crépy"_1252), 4},
+                          EntreeListe{"Gigondas", 5}));
+  EXPECT_THAT(bilan.vins.textes, ElementsAre("Dix octetsEn haut.", "", ""));
+  ASSERT_EQ(bilan.cave.size(), 9U);
+  EXPECT_EQ(bilan.cave.front(), "ABYMES - Région d'origine : Alpes"_1252);
+  EXPECT_EQ(bilan.cave.back(), "... Total .......... 8");
+  EXPECT_TRUE(bilan.vinPasse);
+  EXPECT_EQ(bilan.vinsChanges, 3U);
+}
+
+TEST(Corpus, LesVinsFousSontTousListesEtDesAutresAussiChanges) {
+  const Bilan bilan = Graine("vins-fous");
+  EXPECT_EQ(bilan.vins.liste.size(), 27U);
+  EXPECT_THAT(bilan.vins.textes, testing::Contains("GLV3.DATDix octetsEn haut."));
+  EXPECT_THAT(bilan.cave, IsEmpty());  // a wine in no region has no line of its own
+  EXPECT_TRUE(bilan.vinPasse);
+  EXPECT_GT(bilan.vinsChanges, 9U);
 }
 
 // A position below 1 is no text; a negative length behind a position is the one failure.

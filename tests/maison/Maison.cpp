@@ -130,9 +130,10 @@ int Etage(const fs::path& fichier) {
     return etageDepart;
   }
   const int etage = EtageDuDossier(*fichier.begin());
-  // A window lives with its catalogue, but above the controls that it is made of.
+  // A window lives with its catalogue, but above the controls that it is made of; so does a map.
   const std::string nom = fichier.filename().string();
-  const bool fenetre = nom.starts_with("frm") || nom.starts_with("Fenetre");
+  const bool fenetre =
+      nom.starts_with("frm") || nom.starts_with("Fenetre") || nom.starts_with("Carte");
   return fenetre && etage > 0 && etage < etageControles ? etageFenetres : etage;
 }
 

@@ -38,8 +38,8 @@ std::size_t Regarde(const Liste& liste) {
 
 std::size_t Regarde(const Bilan& bilan) {
   std::size_t zeros = Regarde(bilan.familles) + Regarde(bilan.recettes) + Regarde(bilan.textes) +
-                      Regarde(bilan.images);
-  for (const Lus* lus : {&bilan.fromages, &bilan.menus, &bilan.trucs}) {
+                      Regarde(bilan.images) + Regarde(bilan.regions) + Regarde(bilan.cave);
+  for (const Lus* lus : {&bilan.fromages, &bilan.menus, &bilan.trucs, &bilan.vins}) {
     zeros += Regarde(lus->liste) + Regarde(lus->textes);
   }
   return zeros;

@@ -299,6 +299,7 @@ class AideEtDialogue : public AideEnLigne {
     const QList<QTreeWidgetItem*> entrees =
         arbre.findItems(titre, Qt::MatchExactly | Qt::MatchRecursive);
     ASSERT_THAT(entrees, SizeIs(1));
+    arbre.scrollToItem(entrees.first());
     const QPoint milieu = arbre.visualItemRect(entrees.first()).center();
     QTest::mouseClick(FenetreAide()->windowHandle(), Qt::LeftButton, {},
                       arbre.viewport()->mapTo(FenetreAide(), milieu));

@@ -143,13 +143,14 @@ TEST_F(SujetsDAide, F1DUnControleDefileASonParagraphe) {
   });
 }
 
-TEST_F(SujetsDAide, SeulsLesFromagesOntUneLigneDansLaBandeDuLogo) {
+TEST_F(SujetsDAide, LesFromagesEtLesVinsOntUneLigneDansLaBandeDuLogo) {
   OuvreGarni();
   for (const LigneEssai& ligne : ToutesLesFenetres()) {
     Sujets(ligne);
-    const bool fromages = std::string_view(ligne.nom) == "frmFromages";
+    const std::string_view nom = ligne.nom;
+    const bool avecLigne = nom == "frmFromages" || nom == "frmVins";
     EXPECT_EQ(Le(ligne.nom).findChildren<QWidget*>("lblLigneLogo").size(),
-              fromages ? ligne.onglets() : 0)
+              avecLigne ? ligne.onglets() : 0)
         << ligne.nom;
   }
 }

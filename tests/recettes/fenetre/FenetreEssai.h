@@ -19,40 +19,6 @@ class FenetreRecettes : public FenetreEssai<frmRecettes> {
     return b.module->chemins.De("IMAGE/" + nom);
   }
 
-  /// The gestures on a tab, once for each write of the operation that they bring, which fails: each
-  /// time on a fresh library, as `prepare` leaves it with its answers to questions, and each time
-  /// the program ends by the one fatal message. `verifie` looks at what is then on file.
-  template <class Prepare, class Gestes, class Verifie>
-  static void FinitAChaqueEcriture(std::size_t ecritures, int onglet, Prepare prepare,
-                                   Gestes gestes, Verifie verifie) {
-    for (std::size_t n = 1; n <= ecritures; ++n) {
-      SCOPED_TRACE("écriture " + std::to_string(n));
-      Bibliotheque autre;
-      prepare(autre);
-      autre.Demarre();
-      OublieFin();
-      EcouteMessages(&autre.messages);
-      CadreEssai unCadre(*autre.module);
-      frmRecettes uneFenetre(*autre.module, unCadre);
-      uneFenetre.show();
-      uneFenetre.Active();
-      CliqueOnglet(uneFenetre, onglet);
-      autre.disque.EchoueALaNiemeEcriture(n, Panne::disquePlein);
-      gestes(uneFenetre);
-      EXPECT_EQ(FinVue(), 1);
-      EXPECT_THAT(autre.messages.vus, testing::SizeIs(1));
-      EXPECT_FALSE(autre.pointeur.sablier);
-      verifie(autre, n);
-      EcouteMessages(nullptr);
-    }
-  }
-  template <class Gestes, class Verifie>
-  static void FinitAChaqueEcriture(std::size_t ecritures, int onglet, Gestes gestes,
-                                   Verifie verifie) {
-    FinitAChaqueEcriture(
-        ecritures, onglet, [](Bibliotheque&) {}, gestes, verifie);
-  }
-
   QComboBox& familles() { return Le<QComboBox>("ComboFamilles"); }
   QComboBox& recettes() { return Le<QComboBox>("ComboRecettes"); }
   QString image() { return Le("lblLaRecette").property("Tag").toString(); }

@@ -6,17 +6,7 @@
 namespace gastrelle::essai {
 namespace {
 
-class MotsRecettes : public Mots<frmRecettes> {
- protected:
-  /// Buttons and options: what stands on them, without the mark of the access key, and the tooltip.
-  void AttendBoutons(std::initializer_list<ControleAttendu> boutons) {
-    for (const ControleAttendu& bouton : boutons) {
-      const QWidget& widget = Le(bouton.nom);
-      EXPECT_EQ(Texte(widget).remove(u'&'), Fr(bouton.legende)) << bouton.nom;
-      EXPECT_EQ(widget.toolTip(), Fr(bouton.infobulle)) << bouton.nom;
-    }
-  }
-};
+class MotsRecettes : public Mots<frmRecettes> {};
 
 TEST_F(MotsRecettes, Onglets) {
   OuvreEtParcourt();
