@@ -2,7 +2,7 @@
 
 #include "controles/Focus.h"
 #include "data/ProceduresFichiers.h"
-#include "vins/CarteVignobles.h"
+#include "vignobles/CarteVignobles.h"
 #include "vins/CatalogueVins.h"
 #include "vins/frmVinsListe.h"
 

@@ -21,7 +21,7 @@ struct Piece {
   int etage;
 };
 
-constexpr std::array<Piece, 14> pieces{{
+constexpr std::array<Piece, 15> pieces{{
     {"plateforme", 1},
     {"data", 2},
     {"recettes", 3},
@@ -35,6 +35,7 @@ constexpr std::array<Piece, 14> pieces{{
     {"maintenance", 4},
     {"controles", 5},
     {"images", 5},
+    {"vignobles", 5},
     {"shell", 7},
 }};
 constexpr int etageControles = 5;
@@ -130,10 +131,9 @@ int Etage(const fs::path& fichier) {
     return etageDepart;
   }
   const int etage = EtageDuDossier(*fichier.begin());
-  // A window lives with its catalogue, but above the controls that it is made of; so does a map.
+  // A window lives with its catalogue, but above the controls that it is made of.
   const std::string nom = fichier.filename().string();
-  const bool fenetre =
-      nom.starts_with("frm") || nom.starts_with("Fenetre") || nom.starts_with("Carte");
+  const bool fenetre = nom.starts_with("frm") || nom.starts_with("Fenetre");
   return fenetre && etage > 0 && etage < etageControles ? etageFenetres : etage;
 }
 

@@ -39,7 +39,6 @@ TEST_F(Maison, ChaquePieceASonEtage) {
     EXPECT_EQ(Etage(std::filesystem::path(piece) / "frmDocument.h"), 6) << piece;
   }
   EXPECT_EQ(Etage("fiches/FenetreFiches.h"), 6);
-  EXPECT_EQ(Etage("vins/CarteVignobles.h"), 6);
   EXPECT_EQ(Etage("controles/FenetreOnglets.h"), 5);
   EXPECT_EQ(Etage("shell/frmMain.h"), 7);
   EXPECT_EQ(Etage("main.cpp"), 8);

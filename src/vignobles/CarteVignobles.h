@@ -9,7 +9,7 @@
 #include <QPixmap>
 #include <QWidget>
 
-#include "vins/CarteVignoblesNoms.h"
+#include "vignobles/CarteVignoblesNoms.h"
 
 namespace gastrelle {
 

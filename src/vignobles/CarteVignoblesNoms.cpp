@@ -1,11 +1,11 @@
-#include "vins/CarteVignoblesNoms.h"
+#include "vignobles/CarteVignoblesNoms.h"
 
 #include <algorithm>
 #include <array>
 #include <cmath>
 
-#include "vins/CarteVignoblesFormes.h"
-#include "vins/CarteVignoblesPlacement.h"
+#include "vignobles/CarteVignoblesFormes.h"
+#include "vignobles/CarteVignoblesPlacement.h"
 
 namespace gastrelle {
 namespace {

@@ -8,9 +8,9 @@
 #include <QFont>
 #include <QFontMetricsF>
 
-#include "vins/CarteVignoblesEtiquette.h"
-#include "vins/CarteVignoblesGrille.h"
-#include "vins/TraceVignobles.h"
+#include "vignobles/CarteVignoblesEtiquette.h"
+#include "vignobles/CarteVignoblesGrille.h"
+#include "vignobles/TraceVignobles.h"
 
 namespace gastrelle {
 

@@ -5,7 +5,7 @@
 
 #include <QPainterPath>
 
-#include "vins/TraceVignobles.h"
+#include "vignobles/TraceVignobles.h"
 
 namespace gastrelle {
 

@@ -1,11 +1,11 @@
-#include "vins/CarteVignoblesGrille.h"
+#include "vignobles/CarteVignoblesGrille.h"
 
 #include <algorithm>
 #include <cmath>
 
 #include <QPainter>
 
-#include "vins/CarteVignoblesFormes.h"
+#include "vignobles/CarteVignoblesFormes.h"
 
 namespace gastrelle {
 namespace {

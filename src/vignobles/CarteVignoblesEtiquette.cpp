@@ -1,4 +1,4 @@
-#include "vins/CarteVignoblesEtiquette.h"
+#include "vignobles/CarteVignoblesEtiquette.h"
 
 #include <algorithm>
 #include <array>

@@ -1,4 +1,4 @@
-#include "vins/CarteVignobles.h"
+#include "vignobles/CarteVignobles.h"
 
 #include <algorithm>
 #include <array>
@@ -10,8 +10,8 @@
 #include <QPainter>
 #include <QToolTip>
 
-#include "vins/CarteVignoblesDessin.h"
-#include "vins/CarteVignoblesFormes.h"
+#include "vignobles/CarteVignoblesDessin.h"
+#include "vignobles/CarteVignoblesFormes.h"
 
 namespace gastrelle {
 namespace {

@@ -1,4 +1,4 @@
-#include "vins/CarteVignoblesFormes.h"
+#include "vignobles/CarteVignoblesFormes.h"
 
 #include <algorithm>
 #include <cmath>

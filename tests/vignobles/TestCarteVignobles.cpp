@@ -11,10 +11,10 @@
 
 #include "controles/Teintes.h"
 #include "doublures/Ecran.h"
-#include "vins/CarteVignobles.h"
-#include "vins/CarteVignoblesFormes.h"
-#include "vins/CarteVignoblesNoms.h"
-#include "vins/CarteVignoblesTeintes.h"
+#include "vignobles/CarteVignobles.h"
+#include "vignobles/CarteVignoblesFormes.h"
+#include "vignobles/CarteVignoblesNoms.h"
+#include "vignobles/CarteVignoblesTeintes.h"
 
 namespace gastrelle::essai {
 namespace {

@@ -1,4 +1,4 @@
-#include "vins/CarteVignoblesTeintes.h"
+#include "vignobles/CarteVignoblesTeintes.h"
 
 #include <algorithm>
 

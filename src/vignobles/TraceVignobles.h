@@ -6,7 +6,7 @@
 #include <span>
 #include <string_view>
 
-#include "vins/TraceFrance.h"
+#include "vignobles/TraceFrance.h"
 
 namespace gastrelle {
 

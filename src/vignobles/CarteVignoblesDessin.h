@@ -3,8 +3,8 @@
 
 #include <QPainter>
 
-#include "vins/CarteVignoblesNoms.h"
-#include "vins/CarteVignoblesTeintes.h"
+#include "vignobles/CarteVignoblesNoms.h"
+#include "vignobles/CarteVignoblesTeintes.h"
 
 namespace gastrelle {
 

@@ -1,9 +1,9 @@
-#include "vins/CarteVignoblesDessin.h"
+#include "vignobles/CarteVignoblesDessin.h"
 
 #include <array>
 
 #include "controles/Teintes.h"
-#include "vins/CarteVignoblesFormes.h"
+#include "vignobles/CarteVignoblesFormes.h"
 
 namespace gastrelle {
 namespace {

@@ -1,10 +1,10 @@
-#include "vins/CarteVignoblesPlacement.h"
+#include "vignobles/CarteVignoblesPlacement.h"
 
 #include <algorithm>
 #include <cmath>
 #include <numeric>
 
-#include "vins/CarteVignoblesFormes.h"
+#include "vignobles/CarteVignoblesFormes.h"
 
 namespace gastrelle {
 namespace {

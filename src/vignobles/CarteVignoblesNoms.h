@@ -9,7 +9,7 @@
 #include <QString>
 #include <QTransform>
 
-#include "vins/CarteVignoblesEtiquette.h"
+#include "vignobles/CarteVignoblesEtiquette.h"
 
 namespace gastrelle {
 
