@@ -26,6 +26,13 @@ std::string Entete(Donnees fichier, int compte) {
   return Octets(entete);
 }
 
+/// Puts a text at the end of a pool; returns where it lies.
+LigneRayon Range(std::string& textes, const std::string& texte) {
+  const auto position = static_cast<std::int32_t>(textes.size()) + 1;
+  textes += texte;
+  return {position, static_cast<std::int32_t>(texte.size())};
+}
+
 void Ecrit(const std::filesystem::path& dossier, Donnees fichier, const std::string& octets) {
   std::ofstream sortie(dossier / Nom(fichier), std::ios::binary);
   sortie.write(octets.data(), static_cast<std::streamsize>(octets.size()));
@@ -49,15 +56,14 @@ void EcritGrandeBibliotheque(const std::filesystem::path& dossier, int nombre) {
   std::string recettes = Entete<RecRecette>(Donnees::GLR2, nombre);
   std::string textes(Signature(Donnees::GLR3));
   for (int i = 0; i < nombre; ++i) {
-    const std::string texte = titres.Texte();
+    const LigneRayon texte = Range(textes, titres.Texte());
     RecRecette recette;
     recette.actif = vivant;
     recette.idFamille = famille;
     recette.nomRecette = titres.Titre();
-    recette.posTexte = static_cast<std::int32_t>(textes.size()) + 1;
-    recette.lgTexte = static_cast<std::int32_t>(texte.size());
+    recette.posTexte = texte.posTexte;
+    recette.lgTexte = texte.lgTexte;
     recettes += Octets(recette);
-    textes += texte;
   }
   Ecrit(dossier, Donnees::GLR2, recettes);
   Ecrit(dossier, Donnees::GLR3, textes);
@@ -79,7 +85,7 @@ void EcritGrandeCave(const std::filesystem::path& dossier) {
   std::string vins = Entete<RecVin>(Donnees::GLV2, nombreVins);
   std::string textes(Signature(Donnees::GLV3));
   for (int i = 0; i < nombreVins; ++i) {
-    const std::string note = titres.Texte();
+    const LigneRayon notes = Range(textes, titres.Texte());
     RecVin vin;
     vin.actif = vivant;
     vin.nomVin = titres.Titre();
@@ -87,14 +93,48 @@ void EcritGrandeCave(const std::filesystem::path& dossier) {
     for (const CouleurVin& couleur : couleursVin) {
       vin.*couleur.nombre = static_cast<std::int16_t>(1 + i % 100);
     }
-    vin.posTexte = static_cast<std::int32_t>(textes.size()) + 1;
-    vin.lgTexte = static_cast<std::int32_t>(note.size());
+    vin.posTexte = notes.posTexte;
+    vin.lgTexte = notes.lgTexte;
     vins += Octets(vin);
-    textes += note;
   }
   Ecrit(dossier, Donnees::GLV1, regions);
   Ecrit(dossier, Donnees::GLV2, vins);
   Ecrit(dossier, Donnees::GLV3, textes);
+}
+
+void EcritGrandCarnet(const std::filesystem::path& dossier) {
+  constexpr std::uint32_t graine = 1900;
+  constexpr int nombreCategories = 3;
+  Titres titres(graine);
+
+  std::string categories = Entete<RecFamille>(Donnees::GLFV1, nombreCategories);
+  for (int i = 0; i < nombreCategories; ++i) {
+    RecFamille categorie;
+    categorie.actif = vivant;
+    categorie.nomFamille = titres.Titre();
+    categories += Octets(categorie);
+  }
+  std::string favoris = Entete<RecFavori>(Donnees::GLFV2, nombreFavoris);
+  std::string textes(Signature(Donnees::GLFV3));
+  for (int i = 0; i < nombreFavoris; ++i) {
+    RecFavori favori;
+    favori.actif = vivant;
+    favori.nomFavori = titres.Titre();
+    favori.idCategorie = static_cast<std::int16_t>(2 + i % nombreCategories);
+    favori.telephone = "01 23 45 67 89";
+    favori.email = "contact@exemple.fr";
+    favori.siteWeb = "https://exemple.fr";
+    const LigneRayon adresse = Range(textes, titres.Titre());
+    const LigneRayon notes = Range(textes, titres.Texte());
+    favori.posAdresse = adresse.posTexte;
+    favori.lgAdresse = adresse.lgTexte;
+    favori.posTexte = notes.posTexte;
+    favori.lgTexte = notes.lgTexte;
+    favoris += Octets(favori);
+  }
+  Ecrit(dossier, Donnees::GLFV1, categories);
+  Ecrit(dossier, Donnees::GLFV2, favoris);
+  Ecrit(dossier, Donnees::GLFV3, textes);
 }
 
 }  // namespace gastrelle::bancs

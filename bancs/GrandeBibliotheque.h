@@ -1,5 +1,5 @@
 // The files of someone who has written down everything: one family with as many recipes as a folder
-// is asked to hold, as many wines, and bottles of all of them.
+// is asked to hold, as many wines and bottles of all of them, as many favourite addresses.
 #pragma once
 
 #include <filesystem>
@@ -9,6 +9,7 @@ namespace gastrelle::bancs {
 /// One less than a header can count.
 inline constexpr int nombreRecettes = 32766;
 inline constexpr int nombreVins = nombreRecettes;
+inline constexpr int nombreFavoris = nombreRecettes;
 
 /// Writes `GLR1.DAT` to `GLR4.DAT` into a folder, over those that are there: family 2 and `nombre`
 /// recipes of it, each with its text, none with a picture. The same bytes each time.
@@ -18,5 +19,9 @@ void EcritGrandeBibliotheque(const std::filesystem::path& dossier, int nombre = 
 /// Writes `GLV1.DAT` to `GLV3.DAT` in the same way: 27 regions and `nombreVins` wines, each with a
 /// note and with bottles in all nine colours.
 void EcritGrandeCave(const std::filesystem::path& dossier);
+
+/// Writes `GLFV1.DAT` to `GLFV3.DAT` in the same way: 3 categories and `nombreFavoris` favourites,
+/// each with a postal address and notes.
+void EcritGrandCarnet(const std::filesystem::path& dossier);
 
 }  // namespace gastrelle::bancs

@@ -2,19 +2,14 @@
 // one plain sort of their names; and the report of a cellar that holds bottles of all of them in
 // nine colours, against one plain read of the file, record by record. In turns in the same run.
 
-#include <stdexcept>
-
 #include <QApplication>
 
 #include "GrandeBibliotheque.h"
 #include "Lancement.h"
+#include "Ouverture.h"
 #include "Plancher.h"
 #include "Releve.h"
 #include "controles/ListeChoix.h"
-#include "data/Main.h"
-#include "doublures/Bibliotheque.h"
-#include "doublures/CadreEssai.h"
-#include "plateforme/Disque.h"
 #include "vins/RapportCave.h"
 #include "vins/frmVins.h"
 
@@ -36,12 +31,6 @@ struct Releves {
   Releve lignes;
 };
 
-void Exige(bool condition, const char* sinon) {
-  if (!condition) {
-    throw std::runtime_error(sinon);
-  }
-}
-
 void Tour(Releves& releves, const std::filesystem::path& fichier, Module1& module) {
   std::size_t attendus = 0;
   releves.lectureEtTri.Mesure([&] {
@@ -49,12 +38,7 @@ void Tour(Releves& releves, const std::filesystem::path& fichier, Module1& modul
   });
   essai::CadreEssai cadre(module);
   std::unique_ptr<frmVins> fenetre;
-  releves.ouverture.Mesure([&] {
-    fenetre = std::make_unique<frmVins>(module, cadre);
-    fenetre->show();
-    fenetre->Active();
-    QApplication::processEvents();
-  });
+  releves.ouverture.Mesure([&] { fenetre = OuvreEtPeint<frmVins>(module, cadre); });
   const auto* vins = fenetre->findChild<QComboBox*>(QStringLiteral("ComboVins"));
   Exige(attendus == nombreVins && vins->count() == nombreVins,
         "tous les vins ne sont pas dans la liste");
@@ -80,18 +64,13 @@ void Tour(Releves& releves, const std::filesystem::path& fichier, Module1& modul
 
 int Mesure(essai::Bibliotheque& b) {
   EcritGrandeCave(b.dossier.chemin());
-  Disque disque(b.dossier.chemin());
-  Services services = b.module->services;
-  Module1 module({disque, services.messages, services.pointeur, services.horloge,
-                  services.association, services.son, services.processus},
-                 b.module->chemins);
-  Main(module, false, [] {});
+  SurLeDisque programme(b);
   const std::filesystem::path fichier = b.dossier.chemin() / Nom(Donnees::GLV2);
   Releves chauffe;
-  Tour(chauffe, fichier, module);
+  Tour(chauffe, fichier, programme.module());
   Releves releves;
   for (int tour = 0; tour < tours; ++tour) {
-    Tour(releves, fichier, module);
+    Tour(releves, fichier, programme.module());
   }
   bool tenu = Annonce("la fenêtre des 32 766 vins s'ouvre", releves.ouverture, releves.lectureEtTri,
                       cibleOuverture);

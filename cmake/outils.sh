@@ -8,7 +8,7 @@ paquets_programme=(g++ cmake ninja-build ccache pkg-config git ca-certificates
 paquets_ecran_virtuel=(xvfb xdotool)
 paquets_essais=(libgtest-dev libgmock-dev libbenchmark-dev clang-14 clang-tidy-14 clang-format-14
   libclang-rt-14-dev hunspell hunspell-fr desktop-file-utils shared-mime-info
-  xvfb xdotool valgrind libc6-dbg)
+  xvfb xdotool libsm-dev valgrind libc6-dbg)
 
 etape() { printf '\n== %s ==\n' "$*"; }
 

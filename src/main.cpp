@@ -11,9 +11,12 @@
 #include "controles/Conversion.h"
 #include "plateforme/Clavier.h"
 #include "plateforme/Contraintes.h"
+#include "plateforme/DemandeArret.h"
 #include "plateforme/Disque.h"
+#include "plateforme/FinImprevue.h"
 #include "plateforme/Instance.h"
 #include "shell/Application.h"
+#include "shell/EcouteArret.h"
 #include "shell/frmMain.h"
 
 namespace gastrelle {
@@ -43,13 +46,17 @@ int main(int argc, char** argv) {
   if (fichiers < fichiersDUnMessage) {
     return EXIT_FAILURE;  // the toolkit itself would give up half way
   }
+  const DemandeArret demande;
   MessagesEcran messages;
   PointeurEcran pointeur;
   HorlogeSysteme horloge;
   AssociationSysteme association;
   SonSysteme son;
   ProcessusSysteme processus;
-  const Application application(argc, argv, messages, pointeur, processus);
+  Application application(argc, argv, messages, pointeur, processus);
+  EcouteArret ecoute(application, demande.descripteur());
+  // Until the frame is there, all that a stop can meet is a message about the start.
+  ecoute.surArret = [&] { processus.Termine(EXIT_FAILURE); };
   if (fichiers < fichiersUtiles) {
     messages.Informe(DepuisQt(QString::fromUtf8(tropPeuDeFichiers)), Icone::critique);
     return EXIT_FAILURE;
@@ -66,8 +73,11 @@ int main(int argc, char** argv) {
     Main(module, instance == nullptr, [&] {
       cadre = std::make_unique<frmMain>(module, clavier);
       cadre->surFin = [] { QApplication::exit(0); };
+      ecoute.surArret = [&] { cadre->Arrete(); };
+      ecoute.surEnregistrement = [&] { cadre->Enregistre(); };
       cadre->show();
     });
+    const FinImprevue imprevue([&] { cadre->Enregistre(); });
     return QApplication::exec();
   } catch (const ErreurExecution& erreur) {
     FinSurErreur(erreur, messages, pointeur, processus);

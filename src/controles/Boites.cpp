@@ -75,9 +75,11 @@ void MessagesEcran::Bip() {
   QApplication::beep();
 }
 
-void PointeurEcran::Sablier() {
-  if (!std::exchange(sablier_, true)) {
-    QApplication::setOverrideCursor(Qt::WaitCursor);
+void PointeurEcran::Montre(Qt::CursorShape forme) {
+  if (std::exchange(sablier_, true)) {
+    QApplication::changeOverrideCursor(forme);
+  } else {
+    QApplication::setOverrideCursor(forme);
   }
 }
 

@@ -1,6 +1,8 @@
 // Message boxes, beep and pointer of the real screen.
 #pragma once
 
+#include <Qt>
+
 #include "data/Messages.h"
 
 namespace gastrelle {
@@ -15,10 +17,14 @@ class MessagesEcran final : public Messages {
 
 class PointeurEcran final : public Pointeur {
  public:
-  void Sablier() override;
+  void Sablier() override { Montre(Qt::WaitCursor); }
+  void FlecheSablier() override { Montre(Qt::BusyCursor); }
   void Normal() override;
 
  private:
+  /// Over all windows, in the place of the one that was shown before.
+  void Montre(Qt::CursorShape forme);
+
   bool sablier_ = false;
 };
 

@@ -64,6 +64,11 @@ void Defilement::keyPressEvent(QKeyEvent* touche) {
   }
 }
 
+bool Defilement::focusNextPrevChild(bool suivant) {
+  // The toolkit would bring the line of the cursor into sight, and the rest of its box out of it.
+  return QWidget::focusNextPrevChild(suivant);  // NOLINT(bugprone-parent-virtual-call)
+}
+
 void Defilement::SuitFocus(const QWidget* quitte, const QWidget* recoit) {
   // A window that comes back to the front shows what it showed.
   if (quitte == nullptr || recoit == nullptr || !widget()->isAncestorOf(recoit) ||

@@ -28,6 +28,7 @@ class Defilement final : public QScrollArea {
   void resizeEvent(QResizeEvent* evenement) override;
   void wheelEvent(QWheelEvent* evenement) override;
   void keyPressEvent(QKeyEvent* touche) override;
+  bool focusNextPrevChild(bool suivant) override;
 
  private:
   void SuitFocus(const QWidget* quitte, const QWidget* recoit);

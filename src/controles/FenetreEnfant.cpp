@@ -56,6 +56,9 @@ void FenetreEnfant::Decharge() {
 void FenetreEnfant::closeEvent(QCloseEvent* evenement) {
   const bool cachee = description_.seCache && !parProgramme_;
   RangeSaisie();
+  if (!cachee) {
+    EnregistreSaisie();
+  }
   RazCadre();
   evenement->setAccepted(!cachee);
   if (cachee) {

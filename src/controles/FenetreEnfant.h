@@ -42,6 +42,10 @@ class FenetreEnfant : public QWidget {
   /// Puts away what is being typed. It is asked when the window is left, closed or unloaded, also
   /// twice in a row, and by whoever is going to print what the window shows.
   virtual void RangeSaisie() {}
+  /// Hands over what nobody but the window holds, to the disk or to the shared state, and changes
+  /// nothing on the screen. It is asked when the window is unloaded, and when the session ends or
+  /// the program is stopped while it is there; it may be asked again.
+  virtual void EnregistreSaisie() {}
   /// Shows a record, as a user who chooses it would. Raises error 53 if the window's list doesn't
   /// hold it.
   virtual void MontreEnregistrement(std::int32_t numero);
@@ -70,8 +74,6 @@ class FenetreEnfant : public QWidget {
   virtual void RegleCadre();
   /// Brings the frame into the state without this window.
   void RazCadre();
-  /// True once the program itself unloads the window.
-  [[nodiscard]] bool parProgramme() const { return parProgramme_; }
 
   void closeEvent(QCloseEvent* evenement) override;
 

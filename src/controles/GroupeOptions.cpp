@@ -35,8 +35,17 @@ GroupeOptions::GroupeOptions(const QString& nom, const std::array<QString, 2>& t
   for (std::size_t i = 0; i < options_.size(); ++i) {
     options_[i]->setObjectName(QStringLiteral("%1(%2)").arg(nom).arg(i));
     rangee->addWidget(options_[i]);
+    connect(options_[i], &QRadioButton::toggled, this, [this] { RegleEntree(); });
   }
   rangee->addStretch(1);
+  RegleEntree();
+}
+
+void GroupeOptions::RegleEntree() {
+  const QRadioButton* entree = options_[options_[1]->isChecked() ? 1 : 0];
+  for (QRadioButton* option : options_) {
+    option->setFocusPolicy(option == entree ? Qt::StrongFocus : Qt::ClickFocus);
+  }
 }
 
 }  // namespace gastrelle

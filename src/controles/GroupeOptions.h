@@ -17,6 +17,10 @@ class GroupeOptions final : public QWidget {
   [[nodiscard]] const std::array<QRadioButton*, 2>& options() const { return options_; }
 
  private:
+  /// The Tab key stops at the option that is set, or at the first one: a blank typed there changes
+  /// nothing.
+  void RegleEntree();
+
   std::array<QRadioButton*, 2> options_;
 };
 

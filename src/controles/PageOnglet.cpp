@@ -1,15 +1,13 @@
 #include "controles/PageOnglet.h"
 
-#include "controles/BandeauLogo.h"
+#include <QVBoxLayout>
+
 #include "controles/GroupeOptions.h"
+#include "controles/Legende.h"
 #include "controles/Touches.h"
 
 namespace gastrelle {
 namespace {
-
-constexpr int marge = 10;
-constexpr int margeHaute = 8;
-constexpr int margeBasse = 4;
 
 BandeauLogo* Bandeau(const PlaceOnglet& place, QWidget* parent) {
   const QString infobulle = QString::fromUtf16(place.description.infobulleLogo);
@@ -25,26 +23,17 @@ BandeauLogo* Bandeau(const PlaceOnglet& place, QWidget* parent) {
 }  // namespace
 
 PageOnglet::PageOnglet(const PlaceOnglet& place)
-    : Onglet(&place.hote),
-      hote_(place.hote),
-      bandeau_(Bandeau(place, this)),
-      contenu_(new QGridLayout),
-      boutons_(new PiedBoutons) {
+    : Onglet(&place.hote), hote_(place.hote), corps_(*this, Bandeau(place, this)) {
   setObjectName(QStringLiteral("Frame1(%1)").arg(place.numero));
   setProperty(proprieteSujet, QLatin1String(place.description.sujetAide));
-  auto* page = new QVBoxLayout(this);
-  page->setContentsMargins(marge, margeHaute, marge, margeBasse);
-  page->addWidget(bandeau_);
-  page->addLayout(contenu_, 1);
-  page->addLayout(boutons_);
 }
 
 void PageOnglet::PoseAnnonce(std::string_view texte) {
-  bandeau_->PoseAnnonce(texte);
+  corps_.bandeau->PoseAnnonce(texte);
 }
 
 void PageOnglet::TientDans(const QSize& place) {
-  bandeau_->TientDans(place);
+  corps_.bandeau->TientDans(place);
 }
 
 std::array<QRadioButton*, 2> PageOnglet::Options(const char* nom, const char16_t* premiere,
@@ -52,26 +41,26 @@ std::array<QRadioButton*, 2> PageOnglet::Options(const char* nom, const char16_t
   constexpr int sousLeBandeau = 1;
   auto* groupe = new GroupeOptions(QLatin1String(nom),
                                    {QString::fromUtf16(premiere), QString::fromUtf16(seconde)},
-                                   bandeau_->entete(), this);
+                                   corps_.bandeau->entete(), this);
   static_cast<QVBoxLayout*>(layout())->insertWidget(sousLeBandeau, groupe);
   return groupe->options();
 }
 
 int PageOnglet::AjouteACote(const QString& legende, QWidget* controle) {
   constexpr int jusquAuBord = -1;
-  const int rang = contenu_->count() == 0 ? 0 : contenu_->rowCount();
+  const int rang = contenu().count() == 0 ? 0 : contenu().rowCount();
   // Beside a box of several lines the caption stands at its head.
   const bool haut = controle->sizePolicy().verticalPolicy() == QSizePolicy::Expanding;
-  contenu_->addWidget(Legende(legende, controle), rang, 0, haut ? Qt::AlignTop : Qt::Alignment());
-  contenu_->addWidget(controle, rang, 1, 1, jusquAuBord);
-  contenu_->setColumnStretch(1, 1);
+  contenu().addWidget(Legende(legende, controle), rang, 0, haut ? Qt::AlignTop : Qt::Alignment());
+  contenu().addWidget(controle, rang, 1, 1, jusquAuBord);
+  contenu().setColumnStretch(1, 1);
   return rang;
 }
 
 int PageOnglet::AjouteDessous(const QString& legende, QWidget* controle) {
-  const int rang = contenu_->count() == 0 ? 0 : contenu_->rowCount();
-  contenu_->addWidget(Legende(legende, controle), rang, 0);
-  contenu_->addWidget(controle, rang + 1, 0);
+  const int rang = contenu().count() == 0 ? 0 : contenu().rowCount();
+  contenu().addWidget(Legende(legende, controle), rang, 0);
+  contenu().addWidget(controle, rang + 1, 0);
   return rang + 1;
 }
 

@@ -4,16 +4,13 @@
 
 #include <array>
 
-#include <QGridLayout>
 #include <QRadioButton>
 
-#include "controles/Boutons.h"
+#include "controles/CorpsPage.h"
 #include "controles/FenetreOnglets.h"
 #include "controles/Legende.h"
 
 namespace gastrelle {
-
-class BandeauLogo;
 
 class PageOnglet : public Onglet {
  public:
@@ -27,9 +24,9 @@ class PageOnglet : public Onglet {
   [[nodiscard]] Module1& module() const { return hote_.module(); }
 
   /// Where a page puts its controls.
-  [[nodiscard]] QGridLayout& contenu() { return *contenu_; }
+  [[nodiscard]] QGridLayout& contenu() { return *corps_.contenu; }
   /// The row of buttons at the page's foot.
-  [[nodiscard]] PiedBoutons& boutons() { return *boutons_; }
+  [[nodiscard]] PiedBoutons& boutons() { return *corps_.boutons; }
   /// A pair of option buttons at the page's head, before its controls: what the page works on. They
   /// are named `nom` with their index; as a group they bear the page's heading.
   std::array<QRadioButton*, 2> Options(const char* nom, const char16_t* premiere,
@@ -44,9 +41,7 @@ class PageOnglet : public Onglet {
 
  private:
   FenetreOnglets& hote_;
-  BandeauLogo* bandeau_;
-  QGridLayout* contenu_;
-  PiedBoutons* boutons_;
+  CorpsPage corps_;
 };
 
 }  // namespace gastrelle

@@ -1,7 +1,9 @@
-// Going through the entries of a list without leaving the text that shows them.
+// Going through the entries of a list without going to the list: the keyboard is then where the
+// list's own choice puts it.
 #pragma once
 
 #include "controles/ComboListe.h"
+#include "controles/ListeChoix.h"
 
 namespace gastrelle {
 
@@ -9,5 +11,6 @@ namespace gastrelle {
 /// focus is on `page` but on a list, whose own those keys are. At either end, and in a disabled
 /// list, nothing happens.
 void ParcourtAuClavier(QWidget& page, ComboListe& liste);
+void ParcourtAuClavier(QWidget& page, ListeChoix& liste);
 
 }  // namespace gastrelle

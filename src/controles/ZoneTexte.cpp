@@ -154,7 +154,20 @@ void ZoneTexte::CorrigePassage(int debut, int saisie, int fin) {
   }
 }
 
+bool ZoneTexte::Deborde(const QString& garde) const {
+  constexpr qsizetype collage = 100;  // less than that isn't worth the reckoning
+  constexpr std::size_t plusLong = std::size_t{1} << 21;
+  if (limite_ > 0 || garde.size() < collage) {
+    return false;
+  }
+  const std::string texte = Texte();
+  return texte.size() > plusLong || MemoireDeTexte(texte) > plafondMemoireTexte;
+}
+
 QString ZoneTexte::CeQuiTient(const QString& avant, QString garde, qsizetype acquis) const {
+  if (Deborde(garde)) {
+    garde.truncate(acquis);
+  }
   if (limite_ > 0) {
     qsizetype trop =
         LongueurRangee(*document()) - LongueurRangee(avant) + LongueurRangee(garde) - limite_;

@@ -44,9 +44,11 @@ class ZoneTexte : public QPlainTextEdit {
   /// Keeps what fits of the text between two positions of the document. It was typed from `saisie`
   /// on: what stands before is never cut.
   void CorrigePassage(int debut, int saisie, int fin);
-  /// The characters of `garde` that fit in the place of `avant`, of which the first `acquis` stay.
   /// True for a letter that a full box can't take.
   [[nodiscard]] bool RefuseLettre(const QKeyEvent& touche) const;
+  /// True for a box without a limit into which more was pasted than could be shown again.
+  [[nodiscard]] bool Deborde(const QString& garde) const;
+  /// The characters of `garde` that fit in the place of `avant`, of which the first `acquis` stay.
   [[nodiscard]] QString CeQuiTient(const QString& avant, QString garde, qsizetype acquis) const;
 
   int limite_;

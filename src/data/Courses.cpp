@@ -1,6 +1,8 @@
 #include "data/Courses.h"
 
 #include "data/ProceduresFichiers.h"
+#include "data/Reserve.h"
+#include "plateforme/ErreurExecution.h"
 
 namespace gastrelle {
 

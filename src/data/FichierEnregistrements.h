@@ -92,7 +92,13 @@ class FichierEnregistrements {
   /// `visite(numero)` for each until it answers False. Records are fetched many at a time.
   template <class Visite>
   void ParcourtTous(T& dans, Visite&& visite) {
-    const std::int64_t dernier = Nombre();
+    ParcourtJusqua(Nombre(), dans, visite);
+  }
+
+  /// The same up to record `dernier`; what lies beyond the end of the file reads as zeros. A visit
+  /// may write the record that it is at.
+  template <class Visite>
+  void ParcourtJusqua(std::int64_t dernier, T& dans, Visite&& visite) {
     std::vector<char> bloc;
     for (std::int64_t numero = 2; numero <= dernier; ++numero) {
       const auto rang = static_cast<std::size_t>((numero - 2) % parBloc);

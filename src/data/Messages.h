@@ -40,6 +40,8 @@ class Pointeur {
   virtual ~Pointeur() = default;
 
   virtual void Sablier() = 0;
+  /// The arrow with the hourglass.
+  virtual void FlecheSablier() = 0;
   virtual void Normal() = 0;
 };
 

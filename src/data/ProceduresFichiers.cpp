@@ -146,6 +146,12 @@ void ErreurFatale(Module1& module) {
   module.services.processus.Termine(1);
 }
 
+void ExigeFichierOuFinit(Module1& module, Donnees fichier) {
+  if (!FichierExisteMsg(module, fichier)) {
+    ErreurFatale(module);
+  }
+}
+
 void FinOperation(Module1& module) {
   module.services.pointeur.Normal();
   if (module.erreurFatale) {

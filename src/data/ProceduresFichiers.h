@@ -46,6 +46,9 @@ void VerifieEntete(Module1& module, Donnees fichier);
 /// Pointer to normal, a beep, the fatal message, the end of the process with status 1.
 [[noreturn]] void ErreurFatale(Module1& module);
 
+/// FichierExisteMsg; ErreurFatale at once on a False answer.
+void ExigeFichierOuFinit(Module1& module, Donnees fichier);
+
 /// The end of a guarded operation: pointer to normal, then ErreurFatale if the flag stands.
 void FinOperation(Module1& module);
 

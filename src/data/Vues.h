@@ -60,6 +60,22 @@ struct VueCave {
   std::vector<std::string> lignes;
 };
 
+struct VueFavori {
+  std::string nom;
+  std::string categorie;
+  std::string adresse;
+  std::string telephone;
+  std::string fax;
+  std::string email;
+  std::string siteWeb;
+  std::string notes;
+};
+
+struct VueFavorisTries {
+  std::string categorie;  ///< empty while no category is chosen
+  std::vector<std::string> favoris;
+};
+
 struct VueTruc {
   std::string titre;
   std::string texte;
@@ -77,8 +93,24 @@ struct VueMillesimes {
   std::vector<AnneeClassee> annees;
 };
 
+struct VueNotes {
+  std::string texte;
+};
+
+/// What is to be bought in an aisle.
+struct RayonRempli {
+  std::string rayon;
+  std::string texte;
+};
+
+/// The aisles that hold something, in their order.
+struct VueCourses {
+  std::vector<RayonRempli> rayons;
+};
+
 /// Nothing, or what the tab on display shows.
 using Vue = std::variant<std::monostate, VueRecette, VueFromage, VueFromagesTries, VueMenu, VueVin,
-                         VueVinsTries, VueCaveDuVin, VueCave, VueMillesimes, VueTruc>;
+                         VueVinsTries, VueCaveDuVin, VueCave, VueMillesimes, VueTruc, VueFavori,
+                         VueFavorisTries, VueNotes, VueCourses>;
 
 }  // namespace gastrelle

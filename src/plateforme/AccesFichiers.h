@@ -49,6 +49,10 @@ class AccesFichiers {
 
   /// Opens for reading and writing; a file that isn't there is created empty.
   virtual std::unique_ptr<Fichier> Ouvre(const std::string& nom) = 0;
+  /// Opens for reading alone a file that is there.
+  virtual std::unique_ptr<Fichier> OuvrePourLire(const std::string& nom) = 0;
+  /// Opens for writing a file that is empty then: one that is there loses what it held.
+  virtual std::unique_ptr<Fichier> Cree(const std::string& nom) = 0;
   /// Copies a file over another. When it fails, the other stands as it was.
   virtual void Copie(const std::string& source, const std::string& cible) = 0;
   virtual void Supprime(const std::string& nom) = 0;

@@ -20,6 +20,11 @@ class Association {
 
   /// `cible` is an absolute path or an address with its scheme, in UTF-8. Returns at once; never
   /// throws.
+  /// Any other text fails: nothing is looked for in the current directory, no scheme is put before
+  /// it, and a single letter before ":" is a drive, not a scheme. No shell ever reads the text. An
+  /// address goes to its program as one argument, in which blanks, control characters, quotes
+  /// and the other marks that no address may hold are written as "%" and two digits; all else is
+  /// as it was given.
   virtual Ouverture Ouvre(const std::string& cible) = 0;
 };
 

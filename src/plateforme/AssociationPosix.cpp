@@ -1,5 +1,7 @@
+#include <algorithm>
 #include <gio/gio.h>
 #include <memory>
+#include <string_view>
 
 #include "plateforme/Association.h"
 #include "plateforme/BibliothequePosix.h"
@@ -9,35 +11,61 @@ namespace {
 
 struct Gio {
   Gio() {
-    bibliotheque.Prend(fichier, "g_file_new_for_commandline_arg");
-    bibliotheque.Prend(adresse, "g_file_get_uri");
     bibliotheque.Prend(ouvre, "g_app_info_launch_default_for_uri");
     bibliotheque.Prend(erreurs, "g_io_error_quark");
-    bibliotheque.Prend(lache, "g_object_unref");
   }
 
   BibliothequeSysteme bibliotheque{"libgio-2.0.so.0"};
-  decltype(&g_file_new_for_commandline_arg) fichier = nullptr;
-  decltype(&g_file_get_uri) adresse = nullptr;
   decltype(&g_app_info_launch_default_for_uri) ouvre = nullptr;
   decltype(&g_io_error_quark) erreurs = nullptr;
-  decltype(&g_object_unref) lache = nullptr;
 };
+
+/// True if the text begins with a scheme: a letter, at least one more letter, digit, "+", "-" or
+/// ".", and ":".
+bool AUnSchema(std::string_view texte) {
+  constexpr std::size_t plusCourt = 2;
+  const std::string_view schema = texte.substr(0, texte.find(':'));
+  return schema.size() >= plusCourt && schema.size() < texte.size() &&
+         g_ascii_isalpha(schema.front()) && std::all_of(schema.begin(), schema.end(), [](char c) {
+           return g_ascii_isalnum(c) || c == '+' || c == '-' || c == '.';
+         });
+}
+
+/// An address whose program gets it as one argument, however the line that starts that program is
+/// written: quotes around its place don't help if the address closes them.
+std::string EnUnArgument(std::string_view adresse) {
+  constexpr std::string_view interdits = " \"'\\`<>^{|}";
+  constexpr std::string_view chiffres = "0123456789ABCDEF";
+  constexpr unsigned base = 16;
+  std::string ecrite;
+  for (const char c : adresse) {
+    if (g_ascii_iscntrl(c) || interdits.find(c) != std::string_view::npos) {
+      const auto octet = static_cast<unsigned char>(c);
+      ecrite += '%';
+      ecrite += chiffres[octet / base];
+      ecrite += chiffres[octet % base];
+    } else {
+      ecrite += c;
+    }
+  }
+  return ecrite;
+}
 
 struct LibereTexte {
   void operator()(char* texte) const { g_free(texte); }
 };
-using Texte = std::unique_ptr<char, LibereTexte>;
 
-/// The address of a path; an address stays what it is.
-Texte Adresse(const Gio& gio, const std::string& cible) {
-  if (cible.find(':') != std::string::npos && cible.front() != '/') {
-    return Texte(g_strdup(cible.c_str()));
+/// The address of what is to be opened; empty for a text that leads nowhere.
+std::string Adresse(const std::string& cible) {
+  if (cible.find('\0') != std::string::npos) {
+    return {};
   }
-  GFile* fichier = gio.fichier(cible.c_str());
-  Texte adresse(gio.adresse(fichier));
-  gio.lache(fichier);
-  return adresse;
+  if (cible.starts_with('/')) {
+    const std::unique_ptr<char, LibereTexte> adresse(
+        g_filename_to_uri(cible.c_str(), nullptr, nullptr));
+    return adresse == nullptr ? std::string() : EnUnArgument(adresse.get());
+  }
+  return AUnSchema(cible) ? EnUnArgument(cible) : std::string();
 }
 
 }  // namespace
@@ -47,9 +75,12 @@ Ouverture AssociationSysteme::Ouvre(const std::string& cible) {
   if (!gio.bibliotheque.presente()) {
     return Ouverture::aucuneAssociation;
   }
-  const Texte adresse = Adresse(gio, cible);
+  const std::string adresse = Adresse(cible);
+  if (adresse.empty()) {
+    return Ouverture::echec;
+  }
   GError* erreur = nullptr;
-  if (gio.ouvre(adresse.get(), nullptr, &erreur) != 0) {
+  if (gio.ouvre(adresse.c_str(), nullptr, &erreur) != 0) {
     return Ouverture::ouverte;
   }
   const bool aucune = g_error_matches(erreur, gio.erreurs(), G_IO_ERROR_NOT_SUPPORTED) != 0;

@@ -16,6 +16,8 @@ class Disque final : public AccesFichiers {
   bool ExisteAilleurs(const std::string& chemin) override;
   [[nodiscard]] std::string CheminEntier(const std::string& nom) const override;
   std::unique_ptr<Fichier> Ouvre(const std::string& nom) override;
+  std::unique_ptr<Fichier> OuvrePourLire(const std::string& nom) override;
+  std::unique_ptr<Fichier> Cree(const std::string& nom) override;
   void Copie(const std::string& source, const std::string& cible) override;
   void Supprime(const std::string& nom) override;
   void Renomme(const std::string& nom, const std::string& nouveau) override;

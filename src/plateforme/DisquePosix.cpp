@@ -107,7 +107,7 @@ void EcritOctets(const Descripteur& fichier, std::int64_t decalage, std::string_
 
 class FichierPosix final : public Fichier {
  public:
-  explicit FichierPosix(const std::filesystem::path& chemin) : descripteur_(OuvreOuCree(chemin)) {}
+  explicit FichierPosix(Descripteur ouvert) : descripteur_(std::move(ouvert)) {}
 
   std::size_t Lit(std::int64_t decalage, std::span<char> tampon) override {
     return LitOctets(descripteur_, decalage, tampon);
@@ -217,7 +217,17 @@ std::string Disque::CheminEntier(const std::string& nom) const {
 }
 
 std::unique_ptr<Fichier> Disque::Ouvre(const std::string& nom) {
-  return std::make_unique<FichierPosix>(Chemin(nom));
+  return std::make_unique<FichierPosix>(OuvreOuCree(Chemin(nom)));
+}
+
+std::unique_ptr<Fichier> Disque::OuvrePourLire(const std::string& nom) {
+  return std::make_unique<FichierPosix>(Ordinaire(NumeroDe(Chemin(nom), O_RDONLY)));
+}
+
+std::unique_ptr<Fichier> Disque::Cree(const std::string& nom) {
+  Descripteur ouvert = OuvreOuCree(Chemin(nom));
+  Exige(::ftruncate(ouvert.numero(), 0));
+  return std::make_unique<FichierPosix>(std::move(ouvert));
 }
 
 void Disque::Copie(const std::string& source, const std::string& cible) {

@@ -1,5 +1,6 @@
 #include "shell/Application.h"
 
+#include <QEvent>
 #include <QFile>
 #include <QLibraryInfo>
 #include <QLocale>
@@ -63,6 +64,14 @@ bool Application::notify(QObject* destinataire, QEvent* evenement) {
   } catch (const ErreurExecution& erreur) {
     FinSurErreur(erreur, messages_, pointeur_, processus_);
   }
+}
+
+bool Application::event(QEvent* evenement) {
+  if (evenement->type() == QEvent::Quit && surArret) {
+    surArret();
+    return true;
+  }
+  return QApplication::event(evenement);
 }
 
 }  // namespace gastrelle

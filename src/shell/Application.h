@@ -2,6 +2,8 @@
 // loop.
 #pragma once
 
+#include <functional>
+
 #include <QApplication>
 
 #include "data/Messages.h"
@@ -20,6 +22,13 @@ class Application : public QApplication {
 
   /// A failure that no operation guards ends the program with its report.
   bool notify(QObject* destinataire, QEvent* evenement) override;
+
+  /// Runs when the desktop wants the program to end, as at the end of the session. Without it the
+  /// toolkit closes every window as its user does, and whatever that asks waits for an answer.
+  std::function<void()> surArret;
+
+ protected:
+  bool event(QEvent* evenement) override;
 
  private:
   Messages& messages_;

@@ -6,10 +6,14 @@
 #include <QMdiSubWindow>
 
 #include "controles/Icones.h"
+#include "favoris/frmFavoris.h"
 #include "fiches/frmMenus.h"
 #include "fiches/frmTrucs.h"
 #include "fromages/frmFromages.h"
+#include "listes/frmCourses.h"
+#include "listes/frmMesNotes.h"
 #include "recettes/frmRecettes.h"
+#include "shell/ContourFenetre.h"
 #include "shell/MenusCadre.h"
 #include "vins/frmMillesime.h"
 #include "vins/frmVins.h"
@@ -17,7 +21,7 @@
 namespace gastrelle {
 namespace {
 
-/// A window, its entry in the view menu, and what makes it: nothing if it isn't built yet.
+/// A window, its entry in the view menu, and what makes it.
 struct LigneFenetre {
   EntreeVue vue;
   const char* entree;
@@ -36,9 +40,9 @@ constexpr std::array<LigneFenetre, nombreVues> lignes{{
     {EntreeVue::vins, "mnuViewVins", CreeFenetre<frmVins>},
     {EntreeVue::millesimes, "mnuViewMillesimes", CreeFenetre<frmMillesime>},
     {EntreeVue::termesTrucsAstuces, "mnuViewTermesTrucsAstuces", CreeFenetre<frmTrucs>},
-    {EntreeVue::favoris, "mnuViewFavoris", nullptr},
-    {EntreeVue::mesNotes, "mnuViewMesNotes", nullptr},
-    {EntreeVue::mesCourses, "mnuViewMesCourses", nullptr},
+    {EntreeVue::favoris, "mnuViewFavoris", CreeFenetre<frmFavoris>},
+    {EntreeVue::mesNotes, "mnuViewMesNotes", CreeFenetre<frmMesNotes>},
+    {EntreeVue::mesCourses, "mnuViewMesCourses", CreeFenetre<frmCourses>},
 }};
 
 constexpr const LigneFenetre& Ligne(EntreeVue vue) {
@@ -57,7 +61,7 @@ FenetresCadre::FenetresCadre(Module1& module, Cadre& cadre, QMdiArea& place)
     : module_(module), cadre_(cadre), place_(place), suivi_(place) {}
 
 void FenetresCadre::Montre(EntreeVue vue) {
-  if (EstContexteDe(module_.contexteActif, vue) || Ligne(vue).cree == nullptr) {
+  if (EstContexteDe(module_.contexteActif, vue)) {
     return;
   }
   module_.services.pointeur.Sablier();
@@ -88,11 +92,14 @@ void FenetresCadre::VaA(QMdiSubWindow& fenetre) {
 
 QMdiSubWindow* FenetresCadre::TrouveOuverte(EntreeVue vue) const {
   const auto trouvee = ouvertes_.find(vue);
-  return trouvee == ouvertes_.end() ? nullptr : qobject_cast<QMdiSubWindow*>(trouvee->second);
+  auto* fenetre =
+      trouvee == ouvertes_.end() ? nullptr : qobject_cast<QMdiSubWindow*>(trouvee->second);
+  // A closed one is still there for a moment, but no child window any more.
+  return place_.subWindowList().contains(fenetre) ? fenetre : nullptr;
 }
 
 QMdiSubWindow& FenetresCadre::Cree(EntreeVue vue) {
-  auto* fenetre = new QMdiSubWindow;
+  auto* fenetre = new ContourFenetre;
   fenetre->setAttribute(Qt::WA_DeleteOnClose);
   fenetre->setWidget(Ligne(vue).cree(module_, cadre_));
   fenetre->setWindowIcon(
@@ -100,6 +107,7 @@ QMdiSubWindow& FenetresCadre::Cree(EntreeVue vue) {
   place_.addSubWindow(fenetre);
   ouvertes_[vue] = fenetre;
   suivi_.Suit(*fenetre);
+  fenetre->surFermeture = [this] { suivi_.Regarde(); };
   AppliqueTaille(vue, *fenetre);
   return *fenetre;
 }
@@ -115,13 +123,23 @@ void FenetresCadre::AppliqueTaille(EntreeVue vue, QMdiSubWindow& fenetre) {
   }
 }
 
-void FenetresCadre::DechargeTout() {
+void FenetresCadre::PourChacune(const std::function<void(EntreeVue, FenetreEnfant&)>& fait) const {
   for (const LigneFenetre& ligne : lignes) {
     if (QMdiSubWindow* fenetre = TrouveOuverte(ligne.vue)) {
-      static_cast<FenetreEnfant*>(fenetre->widget())->Decharge();
-      ouvertes_.erase(ligne.vue);
+      fait(ligne.vue, *static_cast<FenetreEnfant*>(fenetre->widget()));
     }
   }
+}
+
+void FenetresCadre::DechargeTout() {
+  PourChacune([this](EntreeVue vue, FenetreEnfant& fenetre) {
+    fenetre.Decharge();
+    ouvertes_.erase(vue);
+  });
+}
+
+void FenetresCadre::EnregistreTout() {
+  PourChacune([](EntreeVue /*vue*/, FenetreEnfant& fenetre) { fenetre.EnregistreSaisie(); });
 }
 
 void FenetresCadre::Enumere(QMenu& menu) {

@@ -2,6 +2,7 @@
 // unloaded.
 #pragma once
 
+#include <functional>
 #include <map>
 
 #include <QMdiArea>
@@ -30,6 +31,9 @@ class FenetresCadre {
   void MontreMaximisee(EntreeVue vue);
   /// Unloads all windows, in the order of the view menu.
   void DechargeTout();
+  /// Has all windows write what they would when they are unloaded, in the same order. They stay as
+  /// they are, to the place of the cursor.
+  void EnregistreTout();
   /// Writes the open windows behind the entries of a menu, in the place of those written before.
   void Enumere(QMenu& menu);
   /// The window that is active, or null.
@@ -38,6 +42,8 @@ class FenetresCadre {
  private:
   [[nodiscard]] QMdiSubWindow* TrouveOuverte(EntreeVue vue) const;
   QMdiSubWindow& Cree(EntreeVue vue);
+  /// Calls `fait` with every window that is there, hidden ones too, in the order of the view menu.
+  void PourChacune(const std::function<void(EntreeVue, FenetreEnfant&)>& fait) const;
   void AppliqueTaille(EntreeVue vue, QMdiSubWindow& fenetre);
   void VaA(QMdiSubWindow& fenetre);
 

@@ -3,6 +3,8 @@
 #include <QEvent>
 #include <QTimer>
 
+#include "shell/ContourFenetre.h"
+
 namespace gastrelle {
 namespace {
 
@@ -36,7 +38,7 @@ void SuiviFenetres::Suit(QMdiSubWindow& fenetre) {
             if (reduite) {
               contenu->QuandReduite();
             } else if (suivie == derniere_) {
-              contenu->Active();
+              Reprend();
             }
           });
 }
@@ -85,6 +87,13 @@ void SuiviFenetres::DonneLaMain(QMdiSubWindow* vers) {
   derniere_ = vers;
   if (quittee != nullptr && encoreVisible) {
     quittee->Desactive();
+  }
+  Reprend();
+}
+
+void SuiviFenetres::Reprend() {
+  if (auto* contour = dynamic_cast<ContourFenetre*>(derniere_.data())) {
+    contour->RendClavier();
   }
   if (FenetreEnfant* prise = active()) {
     prise->Active();

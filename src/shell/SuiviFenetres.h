@@ -16,6 +16,9 @@ class SuiviFenetres final : public QObject {
 
   /// Follows a child window from now on.
   void Suit(QMdiSubWindow& fenetre);
+  /// Looks at once whether the active window is still to be seen, and goes to the one before it if
+  /// it isn't. Whoever doesn't ask is told when the event is over.
+  void Regarde();
   /// The child window that is active, or null.
   [[nodiscard]] FenetreEnfant* active() const;
 
@@ -24,7 +27,8 @@ class SuiviFenetres final : public QObject {
 
  private:
   void DonneLaMain(QMdiSubWindow* vers);
-  void Regarde();
+  /// The active window has the keyboard again, and then what its own rules say.
+  void Reprend();
 
   QMdiArea& enfants_;
   QPointer<QWidget> derniere_;  // a window on its way out is no child window any more

@@ -1,5 +1,8 @@
 #include "shell/frmMain.h"
 
+#include <cstdlib>
+#include <utility>
+
 #include <QCloseEvent>
 
 #include "controles/Adresses.h"
@@ -173,17 +176,37 @@ void frmMain::closeEvent(QCloseEvent* evenement) {
   }
   fenetres_.DechargeTout();
   aide_.Quitte();
-  if (!isMinimized()) {
-    geometrie_.Retient();
-  }
+  RetientPlace();
   hide();
   SauveCourses(module_);
+  ecrite_ = true;
   if (module_.prefs[0].sansCopie == 0) {
     frmSauvegarde(module_).exec();
   }
   if (surFin) {
     surFin();
   }
+}
+
+void frmMain::RetientPlace() const {
+  if (!isMinimized()) {
+    geometrie_.Retient();
+  }
+}
+
+void frmMain::Enregistre() {
+  if (!ecrite_ && !module_.erreurFatale) {
+    fenetres_.EnregistreTout();
+    SauveCourses(module_);
+  }
+}
+
+void frmMain::Arrete() {
+  Enregistre();
+  if (!ecrite_ && !module_.erreurFatale) {
+    RetientPlace();
+  }
+  module_.services.processus.Termine(module_.erreurFatale ? EXIT_FAILURE : EXIT_SUCCESS);
 }
 
 }  // namespace gastrelle

@@ -30,6 +30,15 @@ class frmMain final : public QMainWindow, public Cadre {
   void PermetImage(bool permise) override;
   void MontreImage() override;
 
+  /// Writes to the disk what only the windows and the memory hold: notes, aisle texts. Nothing is
+  /// closed or asked, and it may be called again. After a failure that ends the program, or once
+  /// the frame's own closing has written, nothing is done.
+  void Enregistre();
+  /// Ends the process as closing the frame does, but for the windows, which nobody sees close, and
+  /// for the backup, whose dialog nobody would answer. Whatever the program is waiting in, a dialog
+  /// or a message, isn't gone back to. Status 0, or 1 after a failure that ends the program.
+  [[noreturn]] void Arrete();
+
   /// Runs once the frame is closed and the last copy made.
   std::function<void()> surFin;
 
@@ -43,6 +52,7 @@ class frmMain final : public QMainWindow, public Cadre {
   void Bascule(const char* entree, QWidget& barre);
   void SuiteMaintenance();
   void OuvreAide();
+  void RetientPlace() const;
   [[nodiscard]] QWidget* ControleEnUsage() const;
   [[nodiscard]] std::string ImageAffichee() const;
 
@@ -54,6 +64,7 @@ class frmMain final : public QMainWindow, public Cadre {
   GeometrieCadre geometrie_;
   Aide aide_;
   bool fermee_ = false;
+  bool ecrite_ = false;  ///< the closing has written all there is to write
 };
 
 }  // namespace gastrelle

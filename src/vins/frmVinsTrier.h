@@ -2,38 +2,32 @@
 // from there to a wine and to its bottles.
 #pragma once
 
-#include "controles/ComboListe.h"
-#include "controles/ListeChoix.h"
-#include "controles/PageOnglet.h"
+#include "controles/PageTri.h"
 
 namespace gastrelle {
 
 class CarteVignobles;
 class frmVinsListe;
 
-class frmVinsTrier final : public PageOnglet {
+class frmVinsTrier final : public PageTri {
  public:
   frmVinsTrier(const PlaceOnglet& place, frmVinsListe& liste);
 
   [[nodiscard]] Vue VueCourante() const override;
-  /// The entry rule of the tab: no region is chosen yet, the map stands alone.
-  void Entre() override;
+
+ protected:
+  [[nodiscard]] Liste EntreesDe(std::int32_t region) override;
+  /// The wines, and their region on the map; or the map alone.
+  void MontreEntrees(bool montrees, bool utilisables) override;
+  void Affiche() override;
 
  private:
   void Dispose();
-  void ChoisitRegion();
-  /// The wines with what belongs to them, or the map alone.
-  void MontreVins(bool montres);
-  void MontreLesSiens();
   /// The wine selected here becomes the wine of the whole window, shown on that tab.
-  void Affiche(int onglet);
+  void AfficheSur(int onglet);
 
   frmVinsListe& liste_;
-  ComboListe* ComboRegionVinTrier_;
-  ListeChoix* lstTriVin_;
-  QWidget* colonneVins_;  ///< the list under its caption
   CarteVignobles* PictureCarte_;
-  QPushButton* cmdActiver_;
   QPushButton* cmdMaCave_;
 };
 

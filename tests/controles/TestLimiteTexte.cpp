@@ -36,5 +36,36 @@ TEST(BoitePleine, RefuseUneLettreSansPasDAnnulation) {
   EXPECT_LT(boite.Texte().size(), 5U);
 }
 
+/// A box without a limit still takes nothing that couldn't be shown again.
+class CollageSansLimite : public testing::Test {
+ protected:
+  CollageSansLimite() {
+    boite.show();
+    boite.PoseTexte("du sel");
+    boite.moveCursor(QTextCursor::End);
+  }
+  void Colle(const QString& texte) {
+    QApplication::clipboard()->setText(texte);
+    boite.paste();
+  }
+
+  ZoneTexte boite{"txtEssai", 0, nullptr};
+};
+
+TEST_F(CollageSansLimite, DePlusDeDeuxMegaoctetsEstRefuse) {
+  Colle((QString(999, u'a') + u'\n').repeated(2200));
+  EXPECT_EQ(boite.Texte(), "du sel");
+}
+
+TEST_F(CollageSansLimite, DePlusDeLignesQuUneBoiteNEnTientEstRefuse) {
+  Colle(QString(200'000, u'\n'));
+  EXPECT_EQ(boite.Texte(), "du sel");
+}
+
+TEST_F(CollageSansLimite, DUnMegaoctetEstPris) {
+  Colle((QString(999, u'a') + u'\n').repeated(1000));
+  EXPECT_EQ(boite.Texte().size(), 6U + 1000U * 1001U);
+}
+
 }  // namespace
 }  // namespace gastrelle::essai

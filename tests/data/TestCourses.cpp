@@ -210,6 +210,29 @@ TEST_F(CoursesManquees, GardentToutQuandLaSuppressionEchoue) {
   EXPECT_EQ(b.dossier.Lit("GLMC.DAT"), ancien);
 }
 
+TEST_F(CoursesManquees, GardentLAnnuaireQuandIlNYAPlusRienASupprimer) {
+  b.dossier.Ecrit("GLMC.DAT", ancien);
+  b.dossier.Ecrit("GLMCN.DAT", "GLMCN.DATtruite");
+  b.Demarre();
+  b.dossier.Supprime("GLMCN.DAT");
+  SauveCourses(*b.module);
+  EXPECT_THAT(b.disque.journal(), ElementsAre("supprime GLMCN.DAT"));
+  EXPECT_FALSE(b.dossier.A("GLMCN.DAT"));
+  EXPECT_EQ(b.dossier.Lit("GLMC.DAT"), ancien);
+}
+
+TEST_F(CoursesManquees, PerdentLesTextesQuandLaSignatureEchoue) {
+  Sauve(b, 3, Maniere::moitieEcrite);
+  EXPECT_EQ(b.dossier.Lit("GLMCN.DAT"), "GLMC");
+  EXPECT_EQ(b.dossier.Lit("GLMC.DAT"), ancien);
+}
+
+TEST_F(CoursesManquees, UneLigneAMoitieEcriteLaisseLesSuivantes) {
+  Sauve(b, 4, Maniere::moitieEcrite);  // the row of aisle 0, which is empty as before
+  EXPECT_EQ(b.dossier.Lit("GLMCN.DAT"), "GLMCN.DAT");
+  EXPECT_EQ(b.dossier.Lit("GLMC.DAT"), ancien);
+}
+
 TEST_F(CoursesManquees, PerdentLesTextesQuandLOuvertureEchoue) {
   Sauve(b, 2, Maniere::rienFait);
   EXPECT_FALSE(b.dossier.A("GLMCN.DAT"));

@@ -1,5 +1,8 @@
 // Record files: numbers, the end of the file, counts, scans.
 
+#include <limits>
+#include <vector>
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -35,6 +38,16 @@ class FichierFamilles : public testing::Test {
     std::vector<std::int32_t> numeros;
     vus = fichier.ParcourtVivants(fichier.courant(),
                                   [&](std::int32_t numero) { numeros.push_back(numero); });
+    return numeros;
+  }
+
+  /// Numbers of the records up to `dernier`, as the walk hands them out.
+  std::vector<std::int32_t> ParcourtJusqua(std::int64_t dernier) {
+    std::vector<std::int32_t> numeros;
+    fichier.ParcourtJusqua(dernier, fichier.courant(), [&](std::int32_t numero) {
+      numeros.push_back(numero);
+      return true;
+    });
     return numeros;
   }
 
@@ -214,6 +227,61 @@ TEST_F(FichierFamilles, SArretentQuandLaVisiteLeDemande) {
   });
   EXPECT_THAT(numeros, ElementsAre(2, 3));
   EXPECT_EQ(fichier.courant().nomFamille.brut(), Nom128("n3"));
+}
+
+TEST_F(FichierFamilles, SeParcourentJusquAUnNumeroQuoiQueCompteLEnTete) {
+  Pose(1, {vivant, supprime, vivant, vivant});
+  EXPECT_THAT(ParcourtJusqua(4), ElementsAre(2, 3, 4));
+  EXPECT_EQ(fichier.courant().nomFamille.brut(), Nom128("n4"));
+  EXPECT_THAT(disque.journal(), ElementsAre("lit GLR1.DAT 130+390"));  // the length isn't asked for
+}
+
+TEST_F(FichierFamilles, NeSeLisentPasPourUnNumeroSousDeux) {
+  Pose(1, {vivant});
+  fichier.LitCourant(2);
+  disque.OublieJournal();
+  for (const std::int64_t dernier : {std::int64_t{1}, std::int64_t{0}, std::int64_t{-1},
+                                     std::numeric_limits<std::int64_t>::min()}) {
+    EXPECT_THAT(ParcourtJusqua(dernier), testing::IsEmpty()) << dernier;
+  }
+  EXPECT_EQ(fichier.courant().nomFamille.brut(), Nom128("n2"));
+  EXPECT_THAT(disque.journal(), testing::IsEmpty());
+}
+
+TEST_F(FichierFamilles, SeParcourentEnZerosDerriereLeurFin) {
+  Pose(1, {vivant});
+  std::vector<std::int16_t> actifs;
+  fichier.ParcourtJusqua(4, fichier.courant(), [&](std::int32_t) {
+    actifs.push_back(fichier.courant().actif);
+    return true;
+  });
+  EXPECT_THAT(actifs, ElementsAre(vivant, 0, 0));
+  EXPECT_EQ(Octets(fichier.courant()), std::string(130, '\0'));
+  EXPECT_EQ(dossier.Lit("GLR1.DAT").size(), 260U);
+}
+
+TEST_F(FichierFamilles, SArretentAvantLeNumeroQuandLaVisiteLeDemande) {
+  Pose(3, {vivant, vivant, vivant});
+  fichier.ParcourtJusqua(4, fichier.courant(), [](std::int32_t numero) { return numero < 3; });
+  EXPECT_EQ(fichier.courant().nomFamille.brut(), Nom128("n3"));
+}
+
+// 504 records of 130 bytes are fetched at a time.
+TEST_F(FichierFamilles, SEcriventPendantQuOnLesParcourtDUnePartieALaSuivante) {
+  Pose(600, std::vector<std::int16_t>(600, vivant));
+  fichier.ParcourtJusqua(601, fichier.courant(), [&](std::int32_t numero) {
+    EXPECT_EQ(fichier.courant().nomFamille.brut(), Nom128("n" + std::to_string(numero)));
+    fichier.courant().actif = supprime;
+    fichier.EcritCourant(numero);
+    fichier.Compte(-1);
+    return true;
+  });
+  EXPECT_EQ(fichier.nbActifs(), 0);
+  for (std::size_t numero = 2; numero <= 601; ++numero) {
+    EXPECT_EQ(SurDisque(numero).actif, supprime) << numero;
+  }
+  EXPECT_EQ(disque.journal().size(), 2U + 2U * 600U);
+  EXPECT_EQ(disque.journal().front(), "lit GLR1.DAT 130+65520");
 }
 
 TEST_F(FichierFamilles, EchouentAuDelaDuPlusGrandCompte) {

@@ -6,6 +6,7 @@
 #include "data/Limites.h"
 #include "data/ProceduresFichiers.h"
 #include "doublures/Depart.h"
+#include "doublures/Pannes.h"
 
 namespace gastrelle::essai {
 namespace {
@@ -18,23 +19,6 @@ class Procedures : public testing::Test {
   Procedures() {
     b.Demarre();
     b.pointeur.sablier = true;
-  }
-
-  /// Status of the end of the process that `appel` brings; none fails the test.
-  template <class F>
-  static int FinDe(F&& appel) {
-    try {
-      appel();
-    } catch (const FinDuProgramme& fin) {
-      return fin.statut;
-    }
-    ADD_FAILURE() << "le programme continue";
-    return -1;
-  }
-
-  static MessageVu Fatal() {
-    return {std::string("Erreur fatale. Impossibilité de continuer."_1252), Icone::critique,
-            "Gastrelle 2005"};
   }
 
   Bibliotheque b;
@@ -105,6 +89,30 @@ TEST_F(Procedures, UnFichierExigeSousLaGardeFinitLeProgrammeApresSonMessage) {
 TEST_F(Procedures, ExigeEnSilenceUnFichierPresent) {
   ExigeFichier(module, Donnees::GLT2);
   EXPECT_THAT(b.messages.vus, IsEmpty());
+}
+
+TEST_F(Procedures, UnFichierExigeSansGardeFinitAussitotLeProgramme) {
+  b.dossier.Supprime("GLFV3.DAT");
+  std::vector<bool> sabliers;
+  b.messages.pendant = [&] { sabliers.push_back(b.pointeur.sablier); };
+  EXPECT_EQ(FinDe([&] { ExigeFichierOuFinit(module, Donnees::GLFV3); }), 1);
+  EXPECT_THAT(b.messages.vus, ElementsAre(NonTrouve(b, "GLFV3.DAT"), Fatal()));
+  EXPECT_THAT(sabliers, ElementsAre(false, false));
+  EXPECT_EQ(b.messages.bips, 1);
+  EXPECT_FALSE(module.erreurFatale);
+}
+
+TEST_F(Procedures, UneRechercheManqueeSansGardeFinitAussiLeProgramme) {
+  b.disque.EchoueSur("existe GLFV3.DAT", Panne::entreeSortie);
+  EXPECT_EQ(FinDe([&] { ExigeFichierOuFinit(module, Donnees::GLFV3); }), 1);
+  EXPECT_THAT(b.messages.vus, ElementsAre(NonTrouve(b, "GLFV3.DAT"), Fatal()));
+}
+
+TEST_F(Procedures, UnFichierPresentExigeSansGardeLaisseLeProgrammeContinuer) {
+  EXPECT_NO_THROW(ExigeFichierOuFinit(module, Donnees::GLFV3));
+  EXPECT_THAT(b.disque.journal(), ElementsAre("existe GLFV3.DAT"));
+  EXPECT_THAT(b.messages.vus, IsEmpty());
+  EXPECT_TRUE(b.pointeur.sablier);
 }
 
 TEST_F(Procedures, DossierExisteNeTrouveQueLesDossiers) {

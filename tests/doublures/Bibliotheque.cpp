@@ -75,6 +75,28 @@ std::string NomDeFabrique(std::string_view debut, int numero) {
   return std::string(debut) + std::to_string(1000 + numero).substr(1);
 }
 
+/// A file of the factory: its header, and its protected records, named after their numbers and
+/// completed by `complete(record, number)`.
+template <class T, class Complete>
+std::string Fabrique(Donnees fichier, std::string_view debutDesNoms, Complete complete) {
+  std::string octets = FabriqueVide(fichier);
+  for (int numero = 2; numero <= DernierProtege(fichier); ++numero) {
+    T enregistrement;
+    enregistrement.actif = vivant;
+    NomOuSignature(enregistrement) = NomDeFabrique(debutDesNoms, numero);
+    complete(enregistrement, numero);
+    octets += Octets(enregistrement);
+  }
+  return octets;
+}
+
+constexpr auto telQuel = [](const auto& /*enregistrement*/, int /*numero*/) {};
+
+/// Record `numero` of a file points in turn to each protected record of another one.
+int ATourDeRole(Donnees autre, int numero) {
+  return 2 + (numero - 2) % (DernierProtege(autre) - 1);
+}
+
 }  // namespace
 
 DossierEssai::DossierEssai(const std::string& nom) {
@@ -143,15 +165,9 @@ std::int32_t Bibliotheque::AjouteRecette(std::int32_t famille, std::string_view 
 }
 
 void Bibliotheque::GarnitFromages() {
-  std::string octets = FabriqueVide(Donnees::GLF1);
-  for (int numero = 2; numero <= DernierProtege(Donnees::GLF1); ++numero) {
-    RecFromage fromage;
-    fromage.actif = vivant;
-    fromage.nomFromage = NomDeFabrique("Fromage ", numero);
-    fromage.lait = 1;
-    octets += Octets(fromage);
-  }
-  dossier.Ecrit(NomPresent(Donnees::GLF1), octets);
+  dossier.Ecrit(NomPresent(Donnees::GLF1),
+                Fabrique<RecFromage>(Donnees::GLF1, "Fromage ",
+                                     [](RecFromage& fromage, int) { fromage.lait = 1; }));
 }
 
 std::int32_t Bibliotheque::AjouteFromage(RecFromage fromage, std::string_view notes) {
@@ -161,14 +177,7 @@ std::int32_t Bibliotheque::AjouteFromage(RecFromage fromage, std::string_view no
 }
 
 void Bibliotheque::GarnitFiches(Donnees fiches) {
-  std::string octets = FabriqueVide(fiches);
-  for (int numero = 2; numero <= DernierProtege(fiches); ++numero) {
-    RecFiche fiche;
-    fiche.actif = vivant;
-    fiche.titre = NomDeFabrique("Fiche ", numero);
-    octets += Octets(fiche);
-  }
-  dossier.Ecrit(NomPresent(fiches), octets);
+  dossier.Ecrit(NomPresent(fiches), Fabrique<RecFiche>(fiches, "Fiche ", telQuel));
 }
 
 std::int32_t Bibliotheque::AjouteFiche(Donnees fiches, std::string_view titre,
@@ -182,24 +191,12 @@ std::int32_t Bibliotheque::AjouteFiche(Donnees fiches, std::string_view titre,
 }
 
 void Bibliotheque::GarnitVins() {
-  const std::int32_t derniereRegion = DernierProtege(Donnees::GLV1);
-  std::string octets = FabriqueVide(Donnees::GLV1);
-  for (int numero = 2; numero <= derniereRegion; ++numero) {
-    RecRegion region;
-    region.actif = vivant;
-    region.nomRegion = NomDeFabrique("Région "_1252, numero);
-    octets += Octets(region);
-  }
-  dossier.Ecrit(NomPresent(Donnees::GLV1), octets);
-  octets = FabriqueVide(Donnees::GLV2);
-  for (int numero = 2; numero <= DernierProtege(Donnees::GLV2); ++numero) {
-    RecVin vin;
-    vin.actif = vivant;
-    vin.nomVin = NomDeFabrique("Vin ", numero);
-    vin.idRegion = 2 + (numero - 2) % (derniereRegion - 1);
-    octets += Octets(vin);
-  }
-  dossier.Ecrit(NomPresent(Donnees::GLV2), octets);
+  dossier.Ecrit(NomPresent(Donnees::GLV1),
+                Fabrique<RecRegion>(Donnees::GLV1, "Région "_1252, telQuel));
+  dossier.Ecrit(NomPresent(Donnees::GLV2),
+                Fabrique<RecVin>(Donnees::GLV2, "Vin ", [](RecVin& vin, int numero) {
+                  vin.idRegion = ATourDeRole(Donnees::GLV1, numero);
+                }));
 }
 
 std::int32_t Bibliotheque::AjouteRegion(std::string_view nom) {
@@ -218,6 +215,32 @@ std::int32_t Bibliotheque::AjouteVin(RecVin vin, std::string_view notes,
   return AjouteCompte(dossier, NomPresent(Donnees::GLV2), vin);
 }
 
+void Bibliotheque::GarnitFavoris() {
+  dossier.Ecrit(NomPresent(Donnees::GLFV1),
+                Fabrique<RecFamille>(Donnees::GLFV1, "Catégorie "_1252, telQuel));
+  dossier.Ecrit(NomPresent(Donnees::GLFV2),
+                Fabrique<RecFavori>(Donnees::GLFV2, "Favori ", [](RecFavori& favori, int numero) {
+                  favori.idCategorie =
+                      static_cast<std::int16_t>(ATourDeRole(Donnees::GLFV1, numero));
+                }));
+}
+
+std::int32_t Bibliotheque::AjouteCategorie(std::string_view nom) {
+  RecFamille categorie;
+  categorie.actif = vivant;
+  categorie.nomFamille = nom;
+  return AjouteCompte(dossier, NomPresent(Donnees::GLFV1), categorie);
+}
+
+std::int32_t Bibliotheque::AjouteFavori(RecFavori favori, std::string_view adresse,
+                                        std::string_view notes) {
+  favori.actif = vivant;
+  const std::string reserve = NomPresent(Donnees::GLFV3);
+  AjouteTexte(dossier, reserve, adresse, {favori.posAdresse, favori.lgAdresse});
+  AjouteTexte(dossier, reserve, notes, {favori.posTexte, favori.lgTexte});
+  return AjouteCompte(dossier, NomPresent(Donnees::GLFV2), favori);
+}
+
 void Bibliotheque::GarnitMillesimes(int annees) {
   constexpr int nombreDegres = 6;
   std::string octets;
@@ -232,6 +255,16 @@ void Bibliotheque::GarnitMillesimes(int annees) {
     octets += Octets(annee);
   }
   dossier.Ecrit(NomPresent(Donnees::GLMV), octets);
+}
+
+void Bibliotheque::AjouteCourses(std::size_t rayon, std::string_view texte) {
+  const std::string annuaire = NomPresent(Donnees::GLMC);
+  LigneRayon ligne;
+  AjouteTexte(dossier, NomPresent(Donnees::GLMCN), texte, {ligne.posTexte, ligne.lgTexte});
+  std::string octets = dossier.Lit(annuaire);
+  octets.replace(rayon * longueurEnregistrement<LigneRayon>, longueurEnregistrement<LigneRayon>,
+                 Octets(ligne));
+  dossier.Ecrit(annuaire, octets);
 }
 
 void Bibliotheque::GarnitDeFabrique(const std::filesystem::path& dossierDuProgramme) {
@@ -263,6 +296,16 @@ void Bibliotheque::Garnit() {
     AjouteFiche(fiches, "Agape", "Un texte.");
   }
   GarnitMillesimes();
+  GarnitFavoris();
+  RecFavori favori;
+  favori.nomFavori = "Affineur";
+  favori.idCategorie = Tenu<std::int16_t>(AjouteCategorie("Artisans"));
+  favori.telephone = "01 02 03 04 05";
+  favori.email = "a@b.fr";
+  favori.siteWeb = "https://b.fr";
+  AjouteFavori(favori, "1 rue Haute", "Des notes.");
+  AjouteCourses(14, "Du sel.");
+  dossier.Ecrit("MesNotes.txt", "Des notes.\r\n");
 }
 
 std::unique_ptr<Module1> Bibliotheque::NouveauModule() {

@@ -80,15 +80,27 @@ class Bibliotheque {
   std::int32_t AjouteRegion(std::string_view nom);
   /// A wine behind the last one: `actif` and the references of its texts are set here.
   std::int32_t AjouteVin(RecVin vin, std::string_view notes = {}, std::string_view notesCave = {});
+  /// The 3 categories of the factory, "Catégorie 002" to "Catégorie 004", and its 14 favourites,
+  /// "Favori 002" to "Favori 015", after their record numbers: in turn in each category, without a
+  /// text.
+  void GarnitFavoris();
+  /// A category behind the last one.
+  std::int32_t AjouteCategorie(std::string_view nom);
+  /// A favourite behind the last one: `actif` and the references of its texts are set here.
+  std::int32_t AjouteFavori(RecFavori favori, std::string_view adresse = {},
+                            std::string_view notes = {});
   /// The vintages from 1928 on, whose grades follow each other from year to year and from area to
   /// area: 1928 begins with 0, 1, 2, 3, 4, 5, 0, 1, 2.
   void GarnitMillesimes(int annees = 95);
+
+  /// What is to be bought in an aisle, counted from 0, behind the texts of the other ones.
+  void AjouteCourses(std::size_t rayon, std::string_view texte);
 
   /// The factory copies of the program's folder in place of the small ones.
   void GarnitDeFabrique(const std::filesystem::path& dossierDuProgramme);
 
   /// Fills every catalogue that has a window: the factory's records, and one of the user's that
-  /// stands first in its list. His recipe has a picture.
+  /// stands first in its list. His recipe has a picture. The last aisle and the notes hold a text.
   void Garnit();
 
   /// Runs the start; the files are then open in `module`. Fails the test if it doesn't get to the

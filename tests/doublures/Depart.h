@@ -46,4 +46,10 @@ inline MessageVu NonTrouve(const Bibliotheque& b, std::string_view nom) {
           Icone::critique, "Gastrelle 2005"};
 }
 
+/// The last message of a program that can't go on.
+inline MessageVu Fatal() {
+  return {std::string("Erreur fatale. Impossibilité de continuer."_1252), Icone::critique,
+          "Gastrelle 2005"};
+}
+
 }  // namespace gastrelle::essai

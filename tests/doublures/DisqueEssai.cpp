@@ -110,6 +110,16 @@ std::unique_ptr<Fichier> DisqueEssai::Ouvre(const std::string& nom) {
   return std::make_unique<FichierEssai>(*this, nom, disque_.Ouvre(nom));
 }
 
+std::unique_ptr<Fichier> DisqueEssai::OuvrePourLire(const std::string& nom) {
+  Note("consulte " + nom);
+  return std::make_unique<FichierEssai>(*this, nom, disque_.OuvrePourLire(nom));
+}
+
+std::unique_ptr<Fichier> DisqueEssai::Cree(const std::string& nom) {
+  Note("crée " + nom);
+  return std::make_unique<FichierEssai>(*this, nom, disque_.Cree(nom));
+}
+
 void DisqueEssai::Copie(const std::string& source, const std::string& cible) {
   Note("copie " + source + " " + cible);
   disque_.Copie(source, cible);

@@ -22,7 +22,8 @@ class DisqueEssai final : public AccesFichiers {
 
   /// One line a call, in order: "existe GLR1.DAT", "dossier? IMAGE", "ailleurs? /x.png",
   /// "ouvre GLR1.DAT", "lit GLR1.DAT 0+130", "écrit GLR1.DAT 130+130", "longueur GLR1.DAT",
-  /// "copie GLR1.stp GLR1.DAT", "supprime X", "renomme X Y", "crée IMAGE", "enlève SAUVE".
+  /// "copie GLR1.stp GLR1.DAT", "supprime X", "renomme X Y", "crée IMAGE", "enlève SAUVE",
+  /// "consulte X" (opened for reading alone), "crée X" (a file as well).
   /// Offsets count from 0.
   [[nodiscard]] const std::vector<std::string>& journal() const { return journal_; }
   /// The lines that begin with "écrit", "copie", "supprime", "renomme", "crée" or "enlève".
@@ -48,6 +49,8 @@ class DisqueEssai final : public AccesFichiers {
     return disque_.CheminEntier(nom);
   }
   std::unique_ptr<Fichier> Ouvre(const std::string& nom) override;
+  std::unique_ptr<Fichier> OuvrePourLire(const std::string& nom) override;
+  std::unique_ptr<Fichier> Cree(const std::string& nom) override;
   void Copie(const std::string& source, const std::string& cible) override;
   void Supprime(const std::string& nom) override;
   void Renomme(const std::string& nom, const std::string& nouveau) override;

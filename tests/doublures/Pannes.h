@@ -21,6 +21,18 @@ Panne PanneDe(F&& appel) {
   return {};
 }
 
+/// Runs a call that ends the program and tells the status; one that goes on fails the test.
+template <class F>
+int FinDe(F&& appel) {
+  try {
+    appel();
+  } catch (const FinDuProgramme& fin) {
+    return fin.statut;
+  }
+  ADD_FAILURE() << "le programme continue";
+  return -1;
+}
+
 /// Runs an operation again and again on fresh libraries, its n-th write failing, and hands what is
 /// then on file to `verifie(n)`. Every write fails once with nothing done and once half done.
 template <class Prepare, class Operation, class Verifie>

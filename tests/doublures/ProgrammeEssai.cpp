@@ -97,6 +97,7 @@ int ProgrammeEssai::FinitPar(const char* touche, QProcess& processus, const QStr
 
 std::vector<std::string> ProgrammeEssai::Messages(QProcess& processus) {
   static const QString tete = QStringLiteral("message: ");
+  processus.waitForReadyRead(0);  // what it has said, and the events haven't brought yet
   const QString dit = processus.property(proprieteDit).toString() +
                       QString::fromUtf8(processus.readAllStandardOutput());
   processus.setProperty(proprieteDit, dit);

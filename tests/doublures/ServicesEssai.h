@@ -47,9 +47,14 @@ class PointeurEssai final : public Pointeur {
     sablier = true;
     ++sabliers;
   }
+  void FlecheSablier() override {
+    Sablier();
+    ++fleches;
+  }
   void Normal() override { sablier = false; }
 
   bool sablier = false;
+  int fleches = 0;   ///< how many times it was the arrow with the hourglass
   int sabliers = 0;  ///< how many times the hourglass was set
 };
 

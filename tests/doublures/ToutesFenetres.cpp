@@ -1,8 +1,11 @@
 #include "doublures/ToutesFenetres.h"
 
+#include "favoris/frmFavoris.h"
 #include "fiches/frmMenus.h"
 #include "fiches/frmTrucs.h"
 #include "fromages/frmFromages.h"
+#include "listes/frmCourses.h"
+#include "listes/frmMesNotes.h"
 #include "recettes/frmRecettes.h"
 #include "vins/frmMillesime.h"
 #include "vins/frmVins.h"
@@ -22,13 +25,13 @@ const std::vector<LigneEssai> lignes{
      11,
      {{5, 3}, {5, 4}},
      {"ComboFamilles ComboRecettes txtRecette cmdCameraListe cmdAideListe",
-      "Option1(0) Option1(1) ComboFamillesAjouter txtSaisieNomRecette txtSaisieRecetteAjouter "
+      "Option1(1) ComboFamillesAjouter txtSaisieNomRecette txtSaisieRecetteAjouter "
       "txtImageAjouter cmdImageAjouter PictureWeb cmdValideAjouter cmdEffacerAjouter "
       "cmdAideAjouter",
-      "Option2(0) Option2(1) ComboFamillesModifier txtSaisieNomRecetteModifier "
+      "Option2(1) ComboFamillesModifier txtSaisieNomRecetteModifier "
       "txtSaisieRecetteModifier txtImageModifier cmdImageModifier cmdValideModifier "
       "cmdEffacerModifier cmdAideModifier",
-      "Option3(0) Option3(1) txtTexteRecetteSupprimer cmdSupprimer cmdAideSupprimer",
+      "Option3(1) txtTexteRecetteSupprimer cmdSupprimer cmdAideSupprimer",
       "lstRecettesTri cmdValideTri cmdAideClassement"},
      Cree<frmRecettes>},
     {"frmFromages",
@@ -63,11 +66,11 @@ const std::vector<LigneEssai> lignes{
      41,
      {{5, 3}, {5, 4}, {5, 6}},
      {"ComboVins txtRegion txtNotes cmdAideListe",
-      "Option1(0) Option1(1) txtSaisieNomVin ComboRegionVinAjouter txtSaisieNoteAjouter "
+      "Option1(1) txtSaisieNomVin ComboRegionVinAjouter txtSaisieNoteAjouter "
       "cmdValideAjouter cmdEffacerAjouter cmdAideAjouter",
-      "Option2(0) Option2(1) txtSaisieNomVinModifier ComboRegionVinModifier(1) "
+      "Option2(1) txtSaisieNomVinModifier ComboRegionVinModifier(1) "
       "txtSaisieNoteModifier cmdValideModifier cmdEffacerModifier cmdAideModifier",
-      "Option3(0) Option3(1) txNomVinSupprimer txtRegionVinSupprimer txtNoteVinSupprimer "
+      "Option3(1) txNomVinSupprimer txtRegionVinSupprimer txtNoteVinSupprimer "
       "cmdValideSupprimer cmdAideSupprimer",
       "ComboRegionVinTrier cmdAideTrier",
       "txtVinCave txtRegionCave txtSaisieBlanc txtSaisieRouge txtSaisieRose txtSaisieChampagne "
@@ -102,6 +105,38 @@ const std::vector<LigneEssai> lignes{
       "cmdAideModifier",
       "txtSaisieNomSupprimer txtSaisieTrucSupprimer cmdSupprimer cmdAideSupprimer"},
      Cree<frmTrucs>},
+    {"frmFavoris",
+     "mnuViewFavoris",
+     "Favoris",
+     71,
+     {{5, 3}, {5, 4}},
+     {"ComboFavoris txtCategorie txtAdresse txtTelephone txtFax txtEmail txtWeb txtNotes "
+      "cmdAideListe",
+      "Option1(1) ComboCategorieAjouter txtNomFavoriAjouter txtAdresseAjouter "
+      "txtTelephoneAjouter txtFaxAjouter txtEmailAjouter txtWebAjouter txtNoteAjouter "
+      "cmdValideAjouter cmdEffacerAjouter cmdAideAjouter",
+      "Option2(1) ComboCategorie1Modifier txtNomFavoriModifier txtAdresseModifier "
+      "txtTelephoneModifier txtFaxModifier txtEmailModifier txtWebModifier txtNoteModifier "
+      "cmdValideModifier cmdEffacerModifier cmdAideModifier",
+      "Option3(1) txtCategorieFavoriSupprimer txtNomFavoriSupprimer "
+      "txtAdresseSupprimer txtTelephoneSupprimer txtFaxSupprimer txtEmailSupprimer "
+      "txtWebSupprimer txtNoteSupprimer cmdValideSupprimer cmdAideSupprimer",
+      "ComboCategorieTrier cmdAideTrier"},
+     Cree<frmFavoris>},
+    {"frmMesNotes",
+     "mnuViewMesNotes",
+     "MesNotes",
+     90,
+     {},
+     {"txtSaisie cmdAide"},
+     Cree<frmMesNotes>},
+    {"frmCourses",
+     "mnuViewMesCourses",
+     "MesCourses",
+     100,
+     {},
+     {"lstRayons txtDetail cmdNouveau cmdAide"},
+     Cree<frmCourses>},
 };
 
 }  // namespace

@@ -85,6 +85,19 @@ std::unique_ptr<Fichier> DisqueMemoire::Ouvre(const std::string& nom) {
   return std::make_unique<FichierMemoire>(*this, octets);
 }
 
+std::unique_ptr<Fichier> DisqueMemoire::OuvrePourLire(const std::string& nom) {
+  Compte();
+  const auto present = fichiers_.find(nom);
+  Exige(present != fichiers_.end(), Panne::fichierIntrouvable);
+  return std::make_unique<FichierMemoire>(*this, present->second);
+}
+
+std::unique_ptr<Fichier> DisqueMemoire::Cree(const std::string& nom) {
+  std::unique_ptr<Fichier> cree = Ouvre(nom);
+  fichiers_[nom]->clear();
+  return cree;
+}
+
 void DisqueMemoire::Copie(const std::string& source, const std::string& cible) {
   Compte();
   Exige(fichiers_.contains(source), Panne::fichierIntrouvable);

@@ -33,6 +33,8 @@ class DisqueMemoire final : public AccesFichiers {
     return "/memoire/" + nom;
   }
   std::unique_ptr<Fichier> Ouvre(const std::string& nom) override;
+  std::unique_ptr<Fichier> OuvrePourLire(const std::string& nom) override;
+  std::unique_ptr<Fichier> Cree(const std::string& nom) override;
   void Copie(const std::string& source, const std::string& cible) override;
   void Supprime(const std::string& nom) override;
   void Renomme(const std::string& nom, const std::string& nouveau) override;

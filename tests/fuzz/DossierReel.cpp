@@ -9,6 +9,7 @@
 #include <system_error>
 
 #include "doublures/Entrees.h"
+#include "listes/Notes.h"
 
 namespace gastrelle::essai {
 namespace {
@@ -45,7 +46,7 @@ std::string Description(const fs::directory_entry& entree) {
 }
 
 std::set<std::string> NomsDuProgramme() {
-  std::set<std::string> noms{"IMAGE", std::string(sauvegarde)};
+  std::set<std::string> noms{"IMAGE", std::string(sauvegarde), std::string(fichierNotes)};
   for (const LigneCatalogue& ligne : catalogueFichiers) {
     noms.emplace(ligne.nom);
   }
@@ -137,6 +138,7 @@ const std::vector<std::string>& NomsDuDossier() {
     for (const Donnees fichier : recettes) {
       n.insert(n.end(), {NomSauve(fichier), NomSauve(fichier) + "~"});
     }
+    n.emplace_back(fichierNotes);
     return n;
   }();
   return noms;

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "listes/Notes.h"
+
 namespace gastrelle::essai {
 namespace {
 
@@ -87,6 +89,10 @@ Suite PoseFichiers(std::string_view entree, Module1& module) {
       pose(nom,
            Remplace(module, fichier, lecteur.Morceau(longueur), (suite.choix & gardeEntetes) != 0));
     }
+  }
+  if ((remplaces >> nombreFichiers & 1U) != 0) {
+    const unsigned longueur = lecteur.Mot();
+    pose(std::string(fichierNotes), lecteur.Morceau(longueur));
   }
   if ((suite.choix & avecImages) != 0) {
     disque.CreeDossier("IMAGE");

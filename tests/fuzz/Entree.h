@@ -1,10 +1,11 @@
 // A program folder made of the bytes of one input.
 //
 //   byte  0      options, see below
-//   bytes 1-3    the data files that are replaced, one bit a row of the table of files
+//   bytes 1-3    the data files that are replaced, one bit a row of the table of files; the bit
+//                behind theirs: there are notes
 //   bytes 4-5    the call of the disk in memory that fails, counted from the first one; 0: none
 //   then, for each replaced file, two bytes of length and its bytes; the length `absent` takes the
-//   file away
+//   file away; the notes come last
 //   then, on the disk of the machine, what lies there that is no file (`DossierReel::Pose`)
 // Numbers are little-endian; what the input doesn't hold any more reads as zeros.
 #pragma once

@@ -7,6 +7,7 @@
 #include "data/Texte1252.h"
 #include "fuzz/DossierReel.h"
 #include "fuzz/Entree.h"
+#include "listes/Notes.h"
 
 namespace gastrelle::essai {
 namespace {
@@ -88,6 +89,21 @@ std::string Vin(std::string_view nom, std::int32_t region, std::int16_t blanc, s
   return Octets(vin);
 }
 
+std::string Favori(std::string_view nom, std::int16_t categorie, LigneRayon adresse = {},
+                   LigneRayon notes = {}) {
+  RecFavori favori;
+  favori.actif = vivant;
+  favori.nomFavori = nom;
+  favori.idCategorie = categorie;
+  favori.posAdresse = adresse.posTexte;
+  favori.lgAdresse = adresse.lgTexte;
+  favori.email = " contact@exemple.fr";
+  favori.siteWeb = "  exemple.fr";
+  favori.posTexte = notes.posTexte;
+  favori.lgTexte = notes.lgTexte;
+  return Octets(favori);
+}
+
 /// References that lead out of their pool, or nowhere.
 constexpr std::array<LigneRayon, 9> referencesFolles{{{1, demesure},
                                                       {demesure, demesure},
@@ -105,6 +121,7 @@ struct Dossier {
   unsigned panne = 0;
   std::map<Donnees, std::string> fichiers;
   std::map<Donnees, bool> absents;
+  std::string notes;
   std::string intrus;
 
   [[nodiscard]] std::string octets() const {
@@ -119,6 +136,10 @@ struct Dossier {
         remplaces |= 1U << i;
         morceaux += Mot(static_cast<unsigned>(trouve->second.size())) + trouve->second;
       }
+    }
+    if (!notes.empty()) {
+      remplaces |= 1U << nombreFichiers;
+      morceaux += Mot(static_cast<unsigned>(notes.size())) + notes;
     }
     return std::string{static_cast<char>(choix)} + Mot(remplaces & 0xFFFFU) +
            std::string{static_cast<char>(remplaces >> 16U)} + Mot(panne) + morceaux + intrus;
@@ -212,6 +233,40 @@ Dossier VinsFous() {
   return d;
 }
 
+/// Two categories and three favourites, the first with both its texts; a deleted one between them,
+/// and a file of wines, all deleted, long enough for a category to take its first favourites along.
+Dossier FavorisEtCategories() {
+  constexpr std::size_t nombreVins = 37;  // with one that passes, 39 * 104 / 724 is above 5.5
+  Dossier d;
+  RecFavori parti;
+  parti.nomFavori = "Parti";
+  parti.idCategorie = 2;
+  d.fichiers[Donnees::GLFV1] = Mot(3) + Famille("Artisans") + Famille("Marchés"_1252);
+  d.fichiers[Donnees::GLFV2] = Mot(14) + Favori("Affineur", 2, {10, 10}, {20, 12}) + Octets(parti) +
+                               Favori("Boucher", 2) + Favori("Halles", 3);
+  d.fichiers[Donnees::GLFV3] = "1 rue HautDouze octets";
+  d.fichiers[Donnees::GLV2] =
+      Mot(563) + std::string(nombreVins * longueurEnregistrement<RecVin>, '\0');
+  return d;
+}
+
+/// The mad references in both texts of a favourite; categories that no file holds.
+Dossier FavorisFous() {
+  using Bornes = std::numeric_limits<std::int16_t>;
+  Dossier d = FavorisEtCategories();
+  d.fichiers.erase(Donnees::GLV2);  // an input is no longer than what the fuzzers try
+  std::string favoris = Mot(21);
+  for (const LigneRayon& folle : referencesFolles) {
+    favoris += Favori("Adresse", 2, folle) + Favori("Notes", 2, {}, folle);
+  }
+  for (const std::int16_t nulle : {Bornes::min(), std::int16_t{0}, Bornes::max()}) {
+    favoris += Favori("Nulle part", nulle, {10, 10});
+  }
+  d.fichiers[Donnees::GLFV2] = favoris;
+  d.fichiers[Donnees::GLFV3] += std::string(600, 'x');  // longer than an address may be
+  return d;
+}
+
 /// Milks and months that no table holds, after one cheese that is right.
 Dossier CodesFaux() {
   using Bornes = std::numeric_limits<std::int16_t>;
@@ -271,10 +326,18 @@ Dossier Rayons() {
   return d;
 }
 
+/// Blank lines at both ends, line ends of every system.
+Dossier Notes() {
+  Dossier d;
+  d.notes = "\r\n\n  Un\r\nDeux\n\nTrois\rQuatre\n\r\r\n";
+  return d;
+}
+
 Dossier Tronque() {
   Dossier d = DeuxFamilles();
   d.fichiers.merge(AutresCatalogues().fichiers);
   d.fichiers.merge(VinsEtCave().fichiers);
+  d.fichiers.merge(FavorisEtCategories().fichiers);
   for (auto& [fichier, octets] : d.fichiers) {
     octets.resize(octets.size() - octets.size() / 3);
   }
@@ -285,8 +348,8 @@ Dossier ReduitesAuxEntetes() {
   Dossier d = DeuxFamilles();
   d.fichiers[Donnees::GLR1].resize(2);
   d.fichiers[Donnees::GLR2].resize(2);
-  for (const Donnees fichier :
-       {Donnees::GLF1, Donnees::GLM1, Donnees::GLV1, Donnees::GLV2, Donnees::GLT1}) {
+  for (const Donnees fichier : {Donnees::GLF1, Donnees::GLM1, Donnees::GLV1, Donnees::GLV2,
+                                Donnees::GLT1, Donnees::GLFV1, Donnees::GLFV2}) {
     d.fichiers[fichier] = Mot(600);
   }
   return d;
@@ -334,9 +397,12 @@ std::vector<Graine> GrainesEnMemoire() {
       {"codes-faux", CodesFaux().octets()},
       {"vins-et-cave", VinsEtCave().octets()},
       {"vins-fous", VinsFous().octets()},
+      {"favoris", FavorisEtCategories().octets()},
+      {"favoris-fous", FavorisFous().octets()},
       {"images", Images().octets()},
       {"tous-les-octets", TousLesOctets().octets()},
       {"rayons", Rayons().octets()},
+      {"notes", Notes().octets()},
       {"tronque", Tronque().octets()},
       {"sans-fichier", SansFichier().octets()},
       {"entetes-faux", EntetesFaux().octets()},
@@ -376,6 +442,11 @@ Dossier EnDonnees(Intrus intrus) {
   });
 }
 
+/// In the place of the notes.
+Dossier EnNotes(Intrus intrus) {
+  return AvecIntrus(Notes(), intrus, [](const std::string& nom) { return nom == fichierNotes; });
+}
+
 /// In the place of the backup's files.
 Dossier EnSauve(Intrus intrus) {
   return AvecIntrus(DeuxFamilles(), intrus, [](const std::string& nom) {
@@ -393,6 +464,7 @@ std::vector<Graine> Graines() {
     graines.push_back({debut + "-copies", SousLesCopies(intrus).octets()});
     graines.push_back({debut + "-fabriques", EnFabriques(intrus).octets()});
     graines.push_back({debut + "-donnees", EnDonnees(intrus).octets()});
+    graines.push_back({debut + "-notes", EnNotes(intrus).octets()});
     graines.push_back({debut + "-sauve", EnSauve(intrus).octets()});
   }
   return graines;

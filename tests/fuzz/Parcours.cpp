@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <functional>
 #include <limits>
 #include <stdexcept>
@@ -13,11 +14,13 @@
 #include "data/ProceduresFichiers.h"
 #include "data/Texte1252.h"
 #include "doublures/ServicesEssai.h"
+#include "favoris/CatalogueFavoris.h"
 #include "fiches/CatalogueFiches.h"
 #include "fromages/CatalogueFromages.h"
 #include "fuzz/DisqueMemoire.h"
 #include "fuzz/DossierReel.h"
 #include "fuzz/Entree.h"
+#include "listes/Notes.h"
 #include "maintenance/Sauvegarde.h"
 #include "recettes/LectureRecettes.h"
 #include "vins/CatalogueMillesimes.h"
@@ -54,8 +57,11 @@ class Vie {
         Millesimes();
         Vins();
         Cave();
+        Favoris();
         ChangeLesVins();
+        ChangeLesFavoris();
         gueritDisque();
+        Notes();
         Courses();
         Essaie([&] { static_cast<void>(MesureRecettes(module_)); });
         Essaie([&] { static_cast<void>(OuvreFichiersRecettes(module_, true)); });
@@ -268,6 +274,94 @@ class Vie {
     SupprimeVin(module_, vin.numero);
   }
 
+  void Favoris() {
+    Essaie([&] {
+      bilan_.categories = ListeCategories(module_);
+      Verifie(bilan_.categories.size() <= static_cast<std::size_t>(module_.bufCategorie.nbActifs()),
+              "plus de catégories listées que comptées");
+    });
+    Lus& lus = bilan_.favoris;
+    Essaie([&] {
+      lus.liste = ListeFavoris(module_);
+      VerifieListe(lus.liste, module_.bufFavori);
+    });
+    LitTout(lus, [&](std::int32_t numero) {
+      const TextesFavori textes = LitFavori(module_, numero).textes;
+      const RecFavori& courant = module_.bufFavori.courant();
+      Verifie(textes.adresse.size() <= std::size_t{limiteAdressePostale} &&
+                  textes.notes.size() <= std::size_t{limiteTexte},
+              "un texte plus long que sa limite");
+      Verifie(textes.email == RogneDroite(courant.email.brut()) &&
+                  textes.siteWeb == RogneDroite(courant.siteWeb.brut()),
+              "une adresse autre que celle de la fiche de travail");
+      return textes.adresse + textes.notes;
+    });
+    for (const std::int32_t categorie : Numeros(bilan_.categories)) {
+      Essaie([&] {
+        const auto avant = Code(module_.bufFavori.courant());
+        const Liste favoris = FavorisDeLaCategorie(module_, categorie);
+        Verifie(favoris.size() <= static_cast<std::size_t>(module_.bufFavori.nbActifs()),
+                "plus de favoris d'une catégorie que de favoris");
+        Verifie(Code(module_.bufFavori.courant()) == avant, "un tri qui change le favori lu");
+      });
+    }
+  }
+
+  /// A favourite comes, changes and goes with its category if the wines' file is long enough; then
+  /// those of the input change and go.
+  void ChangeLesFavoris() {
+    const std::string longues(40, 'n');
+    bilan_.favoriPasse = Essaie([&] {
+      const std::int32_t categorie = module_.bufCategorie.ProchainNumero();
+      AjouteCategorie(module_, "Passage");
+      RenommeCategorie(module_, categorie, "Halte");
+      const std::int32_t favori = AjouteFavori(
+          module_, {"Passant", categorie, {"Ici.", "1", "2", "a@b", "b", "Une note."}});
+      Verifie(LitFavori(module_, favori).categorie == "Halte", "un favori d'une autre catégorie");
+      ChangeFavori(module_, favori, {"Passante", categorie, {longues, "", "", "", "", longues}});
+      const TextesFavori lus = LitFavori(module_, favori).textes;
+      Verifie(lus.adresse == longues && lus.notes == longues, "un texte qui se relit autrement");
+      const double borne =
+          std::nearbyint(static_cast<double>(Ouvert(module_.Place(Donnees::GLV2)).Longueur()) /
+                         longueurEnregistrement<RecFavori>);
+      SupprimeCategorie(module_, categorie);
+      module_.bufFavori.LitCourant(favori);
+      Verifie((module_.bufFavori.courant().actif == supprime) == (favori <= borne),
+              "une suppression qui va plus ou moins loin que les vins");
+    });
+    for (const EntreeListe& favori : bilan_.favoris.liste) {
+      Essaie([&] {
+        ChangeUnFavori(favori, longues);
+        ++bilan_.favorisChanges;
+      });
+    }
+    for (const EntreeListe& categorie : bilan_.categories) {
+      Essaie([&] { RenommeCategorie(module_, categorie.numero, categorie.texte); });
+    }
+    if (!bilan_.categories.empty()) {
+      Essaie([&] { SupprimeCategorie(module_, bilan_.categories.front().numero); });
+    }
+  }
+
+  /// Its address and its notes, short and then longer, one after the other, none at last; then it
+  /// goes.
+  void ChangeUnFavori(const EntreeListe& favori, const std::string& longues) {
+    const std::int32_t numero = favori.numero;
+    module_.bufFavori.LitCourant(numero);
+    const RecFavori& lu = module_.bufFavori.courant();
+    // A text far behind the end of its pool would make a file of that length.
+    if (std::max(lu.posAdresse, lu.posTexte) > DisqueMemoire::capacite) {
+      throw ErreurExecution(Panne::disquePlein);
+    }
+    const std::int32_t categorie = lu.idCategorie;
+    for (const TextesFavori& textes :
+         {TextesFavori{"a", "1", "2", "@", "w", "n"}, TextesFavori{longues, "", "", "", "", "n"},
+          TextesFavori{"a", "", "", "", "", longues}, TextesFavori{}}) {
+      Essaie([&] { ChangeFavori(module_, numero, {favori.texte, categorie, textes}); });
+    }
+    SupprimeFavori(module_, numero);
+  }
+
   /// The header counts what the list holds, and every entry bears the number of a record.
   template <class T>
   static void VerifieListe(const Liste& liste, FichierEnregistrements<T>& fichier) {
@@ -290,6 +384,17 @@ class Vie {
     }
   }
 
+  /// What is read is what the next start will read. Where nothing could be read nothing stays.
+  void Notes() {
+    Essaie([&] { bilan_.notes = LitNotes(module_); });
+    const std::string& lues = bilan_.notes;
+    Verifie(!lues.starts_with(CRLF), "des notes qui commencent par une ligne vide");
+    EcritNotes(module_, lues);
+    Verifie(
+        Essaie([&] { Verifie(LitNotes(module_) == lues, "des notes changées par leur écriture"); }),
+        "des notes illisibles après leur écriture");
+  }
+
   /// What was read at the start is what the next start will read.
   void Courses() {
     const std::array<std::string, nombreRayons> avant = module_.texteRayon;
@@ -301,8 +406,13 @@ class Vie {
     Verifie(module_.texteRayon == avant, "un rayon changé par son écriture");
   }
 
-  /// Every message is one of those about a file.
+  /// Every message is one of those about a file; behind the last one the program may say that it
+  /// ends.
   void VerifieMessages() {
+    if (bilan_.fin && messages_.vus.size() > 1 &&
+        messages_.vus.back().texte == "Erreur fatale. Impossibilité de continuer."_1252) {
+      messages_.vus.pop_back();
+    }
     constexpr std::array<std::string_view, 2> fins{
         " non trouvé ou erreur disque."_1252, " non trouvé ou incompatible ou erreur disque."_1252};
     for (const MessageVu& vu : messages_.vus) {

@@ -1,6 +1,6 @@
 // One life of the program on the folder of an input: the start, every list, every recipe, cheese,
-// menu, tip and wine, the cellar, the changes of the wines, the aisle texts and their rewriting,
-// the measure of the dead space, the backup.
+// menu, tip, wine and favourite, the cellar, the changes of the wines and the favourites, the notes
+// and the aisle texts and their rewriting, the measure of the dead space, the backup.
 #pragma once
 
 #include <optional>
@@ -34,9 +34,14 @@ struct Bilan {
   std::vector<std::string> cave;  ///< the report
   bool vinPasse = false;          ///< one was added, changed, and deleted with its region
   std::size_t vinsChanges = 0;    ///< those of the input that were changed and deleted
-  std::size_t pannes = 0;         ///< steps that ended in an ErreurExecution
-  std::size_t rayons = 0;         ///< aisles with a text
-  bool copie = false;             ///< the backup was made
+  Liste categories;
+  Lus favoris;                     ///< their addresses, then their notes
+  bool favoriPasse = false;        ///< one was added and changed, and its category deleted
+  std::size_t favorisChanges = 0;  ///< those of the input that were changed and deleted
+  std::size_t pannes = 0;          ///< steps that ended in an ErreurExecution
+  std::string notes;
+  std::size_t rayons = 0;  ///< aisles with a text
+  bool copie = false;      ///< the backup was made
   std::vector<std::string> messages;
 };
 

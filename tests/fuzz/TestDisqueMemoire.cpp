@@ -27,6 +27,24 @@ TEST(DisqueMemoire, OuvrirCreeUnFichierVide) {
   EXPECT_TRUE(disque.Existe("A"));
 }
 
+TEST(DisqueMemoire, OuvrirPourLireNeCreeRien) {
+  DisqueMemoire disque;
+  disque.Pose("A", "abc");
+  EXPECT_EQ(disque.OuvrePourLire("A")->Longueur(), 3);
+  Echoue(Panne::fichierIntrouvable, [&] { static_cast<void>(disque.OuvrePourLire("B")); });
+  EXPECT_FALSE(disque.Existe("B"));
+}
+
+TEST(DisqueMemoire, CreerVideCeQuiEstLa) {
+  DisqueMemoire disque;
+  disque.Pose("A", "abc");
+  const auto dejaOuvert = disque.Ouvre("A");
+  EXPECT_EQ(disque.Cree("A")->Longueur(), 0);
+  EXPECT_EQ(dejaOuvert->Longueur(), 0);
+  disque.Cree("B")->Ecrit(0, "x");
+  EXPECT_EQ(disque.Lit("B"), "x");
+}
+
 TEST(DisqueMemoire, LitCeQueLeFichierTientEtRienAuDela) {
   DisqueMemoire disque;
   disque.Pose("A", "abcdef");

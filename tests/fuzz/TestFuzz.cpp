@@ -115,6 +115,45 @@ TEST(Corpus, LesAutresCataloguesReduitsAuxEntetesSontVides) {
   EXPECT_THAT(bilan.regions, IsEmpty());
   EXPECT_THAT(bilan.vins.liste, IsEmpty());
   EXPECT_THAT(bilan.cave, ElementsAre("Votre cave est vide !"));
+  EXPECT_THAT(bilan.categories, IsEmpty());
+  EXPECT_THAT(bilan.favoris.liste, IsEmpty());
+}
+
+TEST(Corpus, LesFavorisSontLusEtChanges) {
+  const Bilan bilan = Graine("favoris");
+  EXPECT_THAT(bilan.categories,
+              ElementsAre(EntreeListe{"Artisans", 2}, EntreeListe{std::string("Marchés"_1252), 3}));
+  EXPECT_THAT(
+      bilan.favoris.liste,
+      ElementsAre(EntreeListe{"Affineur", 2}, EntreeListe{"Boucher", 4}, EntreeListe{"Halles", 5}));
+  EXPECT_THAT(bilan.favoris.textes, ElementsAre("1 rue HautDouze octets", "", ""));
+  EXPECT_TRUE(bilan.favoriPasse);
+  EXPECT_EQ(bilan.favorisChanges, 3U);
+  EXPECT_EQ(bilan.fin, std::nullopt);
+}
+
+TEST(Corpus, LesFavorisFousSontTousListesEtDesAutresAussiChanges) {
+  const Bilan bilan = Graine("favoris-fous");
+  EXPECT_EQ(bilan.favoris.liste.size(), 21U);
+  EXPECT_EQ(bilan.favoris.textes.size(), 17U);  // no negative length, no category below 1
+  EXPECT_THAT(bilan.favoris.textes, testing::Contains(testing::SizeIs(512)));  // an address
+  EXPECT_THAT(bilan.favoris.textes, testing::Contains(testing::SizeIs(631)));  // notes
+  EXPECT_TRUE(bilan.favoriPasse);
+  EXPECT_GT(bilan.favorisChanges, 9U);
+}
+
+// The first call of the disk behind the start that asks whether a file is there without a guard.
+TEST(Corpus, UnFichierQuiManqueSansGardeFinitLeProgrammeApresSonMessage) {
+  std::string entree = Octets(corpus / "favoris");
+  bool fini = false;
+  for (unsigned appel = 100; appel < 1000 && !fini; ++appel) {
+    entree[4] = static_cast<char>(appel & 0xFFU);
+    entree[5] = static_cast<char>(appel >> 8U);
+    const Bilan bilan = Parcourt(entree);
+    fini = bilan.fin.has_value();
+    EXPECT_TRUE(!fini || bilan.messages.size() == 1U);
+  }
+  EXPECT_TRUE(fini);
 }
 
 TEST(Corpus, LesVinsEtLaCaveSontLusEtChanges) {
@@ -178,6 +217,10 @@ TEST(Corpus, LesRayonsSontLus) {
   EXPECT_EQ(Graine("rayons").rayons, 8U);
 }
 
+TEST(Corpus, LesNotesSontLuesSousToutesLesFinsDeLigne) {
+  EXPECT_EQ(Graine("notes").notes, "  Un\r\nDeux\r\n\r\nTrois\r\nQuatre\r\n\r\n");
+}
+
 TEST(Corpus, UnMauvaisFichierEtUnFichierAbsentRefusentLeDemarrage) {
   for (const char* nom : {"entetes-faux", "sans-fichier", "panne-au-demarrage"}) {
     const Bilan bilan = Graine(nom);
@@ -220,6 +263,13 @@ TEST_P(ParmiLesIntrus, UnFichierDeDonneesQuiNEnEstPasUnEstRemplaceOuDit) {
   const Bilan bilan = AvecIntrus("-donnees");
   EXPECT_EQ(bilan.cadre, bilan.messages.empty());
   EXPECT_EQ(bilan.fin, bilan.cadre ? std::nullopt : std::optional(1));
+}
+
+TEST_P(ParmiLesIntrus, LesNotesSeLisentAuBoutDUnLienVersUnFichierEtNullePartAilleurs) {
+  const Bilan bilan = AvecIntrus("-notes");
+  EXPECT_TRUE(bilan.cadre);
+  EXPECT_THAT(bilan.messages, IsEmpty());
+  EXPECT_EQ(bilan.notes.empty(), GetParam() != "lien-fichier");
 }
 
 TEST_P(ParmiLesIntrus, LaSauvegardeRemplaceToutSaufUnDossier) {

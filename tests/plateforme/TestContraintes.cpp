@@ -2,14 +2,13 @@
 
 #include <csignal>
 #include <fcntl.h>
-#include <functional>
 #include <sys/stat.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 #include <gtest/gtest.h>
 
 #include "doublures/Bibliotheque.h"
+#include "doublures/Enfant.h"
 #include "doublures/Limites.h"
 #include "doublures/Pannes.h"
 #include "plateforme/Contraintes.h"
@@ -17,17 +16,6 @@
 
 namespace gastrelle::essai {
 namespace {
-
-/// How a child process that does this ends: its status, or minus the signal that ended it.
-int Enfant(const std::function<int()>& fait) {
-  const pid_t enfant = ::fork();
-  if (enfant == 0) {
-    ::_exit(fait());
-  }
-  int statut = 0;
-  ::waitpid(enfant, &statut, 0);
-  return WIFEXITED(statut) ? WEXITSTATUS(statut) : -WTERMSIG(statut);
-}
 
 TEST(Contraintes, UnFichierTropGrandEchoueCommeSurUnDisquePlein) {
   const DossierEssai dossier;

@@ -97,6 +97,27 @@ TEST_F(DisqueReel, CreeVideUnFichierQuiManqueEtGardeCeluiQuiEstLa) {
   EXPECT_TRUE(dossier.A("Y"));
 }
 
+TEST_F(DisqueReel, OuvrePourLireCeQuiEstLaEtNeCreeRien) {
+  dossier.Ecrit("X", "contenu");
+  const auto fichier = disque.OuvrePourLire("X");
+  EXPECT_EQ(Lit(*fichier, 0, 100), "contenu");
+  EXPECT_EQ(PanneDe([&] { fichier->Ecrit(0, "a"); }), Panne::accesFichier);
+  EXPECT_EQ(dossier.Lit("X"), "contenu");
+  EXPECT_EQ(PanneDe([&] { static_cast<void>(disque.OuvrePourLire("Y")); }),
+            Panne::fichierIntrouvable);
+  EXPECT_FALSE(dossier.A("Y"));
+}
+
+TEST_F(DisqueReel, CreeUnFichierVideQuoiQuIlYAitEu) {
+  dossier.Ecrit("X", "contenu");
+  for (const char* nom : {"X", "Y"}) {
+    const auto fichier = disque.Cree(nom);
+    EXPECT_EQ(fichier->Longueur(), 0) << nom;
+    fichier->Ecrit(0, "neuf");
+    EXPECT_EQ(dossier.Lit(nom), "neuf");
+  }
+}
+
 TEST_F(DisqueReel, TientUnePositionNegativePourUnAppelIncorrect) {
   const auto fichier = disque.Ouvre("X");
   EXPECT_EQ(PanneDe([&] { fichier->Ecrit(-1, "a"); }), Panne::appelIncorrect);

@@ -47,6 +47,39 @@ TEST_F(DisqueHostile, NOuvreQuUnFichierSansAttendrePersonne) {
   }
 }
 
+TEST_F(DisqueHostile, NeLitNiNeCreeQuUnFichierSansAttendrePersonne) {
+  for (const Entree& entree : EntreesSpeciales()) {
+    entree.pose(Chemin(entree.nom));
+    EXPECT_EQ(PanneDe([&] { static_cast<void>(disque.OuvrePourLire(entree.nom)); }),
+              Panne::accesFichier)
+        << entree.nom;
+    EXPECT_EQ(PanneDe([&] { static_cast<void>(disque.Cree(entree.nom)); }), Panne::accesFichier)
+        << entree.nom;
+  }
+  disque.CreeDossier("D");
+  EXPECT_EQ(PanneDe([&] { static_cast<void>(disque.OuvrePourLire("D")); }), Panne::accesFichier);
+  EXPECT_EQ(PanneDe([&] { static_cast<void>(disque.Cree("D")); }), Panne::accesFichier);
+  EXPECT_TRUE(disque.DossierExiste("D"));
+}
+
+TEST_F(DisqueHostile, LitEtVideAuBoutDUnLienVersUnFichier) {
+  ailleurs.Ecrit("X", "contenu");
+  fs::create_symlink(ailleurs.chemin() / "X", Chemin("lien"));
+  EXPECT_EQ(disque.OuvrePourLire("lien")->Longueur(), 7);
+  EXPECT_EQ(disque.Cree("lien")->Longueur(), 0);
+  EXPECT_EQ(ailleurs.Lit("X"), "");
+  EXPECT_TRUE(fs::is_symlink(Chemin("lien")));
+}
+
+TEST_F(DisqueHostile, NeLitNiNeCreeAuBoutDUnLienQuiNeMeneNullePart) {
+  fs::create_symlink(ailleurs.chemin() / "neuf", Chemin("X"));
+  EXPECT_EQ(PanneDe([&] { static_cast<void>(disque.OuvrePourLire("X")); }),
+            Panne::fichierIntrouvable);
+  EXPECT_EQ(PanneDe([&] { static_cast<void>(disque.Cree("X")); }), Panne::accesFichier);
+  EXPECT_FALSE(ailleurs.A("neuf"));
+  EXPECT_TRUE(fs::is_symlink(Chemin("X")));
+}
+
 TEST_F(DisqueHostile, NeCopieQuUnFichierSansAttendrePersonne) {
   dossier.Ecrit("Y", "des années de recettes");
   for (const Entree& entree : EntreesSpeciales()) {

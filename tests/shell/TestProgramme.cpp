@@ -43,6 +43,19 @@ TEST_F(Programme, UnSecondNeSOuvrePasACoteDuPremier) {
   EXPECT_EQ(programme.state(), QProcess::Running);
 }
 
+TEST_F(Programme, CeQuOnTapeEnRevenantALaListeVaDansSonTexte) {
+  Lance(programme);
+  const QString fenetre = FenetreDe(programme);
+  Outil({"windowfocus", "--sync", fenetre});
+  Outil({"key", "--delay", "60", "ctrl+9", "Return"});
+  Outil({"type", "--delay", "40", "porc"});
+  Outil({"key", "--delay", "60", "ctrl+1", "ctrl+9"});
+  Outil({"type", "--delay", "40", " olives"});
+  EXPECT_EQ(FinitPar("ctrl+q", programme, fenetre), 0);
+  EXPECT_EQ(b.dossier.Lit("GLMCN.DAT"), "GLMCN.DATporc olives");
+  EXPECT_THAT(Messages(programme), ElementsAre());
+}
+
 TEST_F(Programme, UnSimpleUsagerLOuvreAussi) {
   EnSimpleUsager();
   Droits("", 0777);
