@@ -70,6 +70,41 @@ void EcritGrandeBibliotheque(const std::filesystem::path& dossier, int nombre) {
   Ecrit(dossier, Donnees::GLR4, std::string(Signature(Donnees::GLR4)));
 }
 
+void EcritGrandCahier(const std::filesystem::path& dossier, bool melees) {
+  constexpr std::uint32_t graine = 1977;
+  constexpr std::int32_t premiere = 2;
+  constexpr int parFamille = nombreRecettes / nombreFamilles + 1;
+  Titres titres(graine);
+
+  std::string familles = Entete<RecFamille>(Donnees::GLR1, nombreFamilles);
+  for (int i = 0; i < nombreFamilles; ++i) {
+    RecFamille famille;
+    famille.actif = vivant;
+    famille.nomFamille = titres.Titre();
+    familles += Octets(famille);
+  }
+  std::string recettes = Entete<RecRecette>(Donnees::GLR2, nombreRecettes);
+  std::string textes(Signature(Donnees::GLR3));
+  for (int i = 0; i < nombreRecettes; ++i) {
+    std::string texte = titres.Texte();
+    while (texte.size() < parTexte) {
+      texte += titres.Texte();
+    }
+    const LigneRayon place = Range(textes, texte.substr(0, parTexte));
+    RecRecette recette;
+    recette.actif = vivant;
+    recette.idFamille = premiere + (melees ? i % nombreFamilles : i / parFamille);
+    recette.nomRecette = titres.Titre();
+    recette.posTexte = place.posTexte;
+    recette.lgTexte = place.lgTexte;
+    recettes += Octets(recette);
+  }
+  Ecrit(dossier, Donnees::GLR1, familles);
+  Ecrit(dossier, Donnees::GLR2, recettes);
+  Ecrit(dossier, Donnees::GLR3, textes);
+  Ecrit(dossier, Donnees::GLR4, std::string(Signature(Donnees::GLR4)));
+}
+
 void EcritGrandeCave(const std::filesystem::path& dossier) {
   constexpr std::uint32_t graine = 1855;
   constexpr int nombreRegions = 27;

@@ -34,8 +34,8 @@ class SurLeDisque {
  private:
   Services ServicesDe(essai::Bibliotheque& b) {
     const Services siens = b.module->services;
-    return {disque_,           siens.messages, siens.pointeur, siens.horloge,
-            siens.association, siens.son,      siens.processus};
+    return {disque_,           siens.messages, siens.pointeur,  siens.horloge,
+            siens.association, siens.son,      siens.processus, siens.imprimante};
   }
 
   Disque disque_;

@@ -105,7 +105,7 @@ int Mesure(essai::Bibliotheque& b) {
   Disque disque(b.dossier.chemin());
   Services services = b.module->services;
   Module1 module({disque, services.messages, services.pointeur, services.horloge,
-                  services.association, services.son, services.processus},
+                  services.association, services.son, services.processus, services.imprimante},
                  b.module->chemins);
   Main(module, false, [] {});
   essai::CadreEssai cadre(module);

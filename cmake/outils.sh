@@ -3,12 +3,12 @@
 # Packages of Debian; what is already there is not asked for again.
 paquets_programme=(g++ cmake ninja-build ccache pkg-config git ca-certificates
   qt6-base-dev qt6-base-dev-tools qt6-translations-l10n qt6-image-formats-plugins
-  libtomlplusplus-dev libglib2.0-dev libcanberra-dev librsvg2-bin imagemagick
+  libtomlplusplus-dev libglib2.0-dev libcups2-dev libcanberra-dev librsvg2-bin imagemagick
   fonts-liberation fonts-dejavu-core)
 paquets_ecran_virtuel=(xvfb xdotool)
 paquets_essais=(libgtest-dev libgmock-dev libbenchmark-dev clang-14 clang-tidy-14 clang-format-14
   libclang-rt-14-dev hunspell hunspell-fr desktop-file-utils shared-mime-info
-  xvfb xdotool libsm-dev valgrind libc6-dbg)
+  xvfb xdotool libsm-dev valgrind libc6-dbg cups cups-client cups-filters poppler-utils)
 
 etape() { printf '\n== %s ==\n' "$*"; }
 

@@ -6,9 +6,11 @@
 #include <cstdlib>
 #include <filesystem>
 #include <memory>
+#include <system_error>
 
 #include "controles/Boites.h"
 #include "controles/Conversion.h"
+#include "imprimante/AccesImprimanteSysteme.h"
 #include "plateforme/Clavier.h"
 #include "plateforme/Contraintes.h"
 #include "plateforme/DemandeArret.h"
@@ -64,9 +66,12 @@ int main(int argc, char** argv) {
   ClavierSysteme clavier;
 
   const std::filesystem::path dossier = QApplication::applicationDirPath().toStdU16String();
+  std::error_code sansSuite;
+  std::filesystem::current_path(dossier, sansSuite);  // where the programs that it starts begin
   Disque disque(dossier);
   const std::unique_ptr<Instance> instance = Instance::Prend(dossier);
-  Module1 module({disque, messages, pointeur, horloge, association, son, processus},
+  AccesImprimanteSysteme imprimante(QApplication::applicationDirPath());
+  Module1 module({disque, messages, pointeur, horloge, association, son, processus, imprimante},
                  Chemins(conventionDuSysteme, DepuisQt(QApplication::applicationDirPath())));
   try {
     std::unique_ptr<frmMain> cadre;

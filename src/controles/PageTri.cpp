@@ -71,8 +71,11 @@ void PageTri::ChoisitGroupe() {
   DonneFocus(entrees);
 }
 
-std::string PageTri::GroupeChoisi() const {
-  return groupes->currentIndex() > indiceSansGroupe ? groupes->Texte() : std::string{};
+std::optional<std::string> PageTri::GroupeChoisi() const {
+  if (groupes->currentIndex() <= indiceSansGroupe) {
+    return std::nullopt;
+  }
+  return groupes->Texte();
 }
 
 std::vector<std::string> PageTri::Noms() const {

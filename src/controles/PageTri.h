@@ -2,6 +2,8 @@
 // the one that is chosen; the way from an entry to the tab that shows it.
 #pragma once
 
+#include <optional>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -45,8 +47,8 @@ class PageTri : public PageOnglet {
   /// The entry that is selected becomes the one that the whole window shows.
   virtual void Affiche() = 0;
 
-  /// The text of the group that is chosen; empty for none.
-  [[nodiscard]] std::string GroupeChoisi() const;
+  /// The text of the group that is chosen, if one is.
+  [[nodiscard]] std::optional<std::string> GroupeChoisi() const;
   /// What the list of entries shows.
   [[nodiscard]] std::vector<std::string> Noms() const;
 

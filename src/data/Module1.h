@@ -15,6 +15,7 @@
 #include "plateforme/AccesFichiers.h"
 #include "plateforme/Association.h"
 #include "plateforme/Horloge.h"
+#include "plateforme/Imprimante.h"
 #include "plateforme/Processus.h"
 #include "plateforme/Son.h"
 
@@ -29,6 +30,7 @@ struct Services {
   Association& association;
   Son& son;
   Processus& processus;
+  AccesImprimante& imprimante;
 };
 
 inline constexpr std::size_t nombreRayons = 15;

@@ -28,6 +28,13 @@ std::string Reserve::Lit(std::int32_t position, std::int32_t longueur, std::int3
   return texte;
 }
 
+std::size_t Reserve::LitDans(std::int32_t position, std::span<char> place) {
+  if (position < 1) {
+    throw ErreurExecution(Panne::numeroEnregistrement);
+  }
+  return Ouvert(place_).Lit(std::int64_t{position} - 1, place);
+}
+
 void Reserve::Ajoute(ReferenceTexte reference, std::string_view texte) {
   Ecrit(reference, Longueur() + 1, texte);
 }

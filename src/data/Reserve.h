@@ -2,9 +2,11 @@
 // nothing between them. The only map of what is alive in it is the set of records that point there.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <limits>
 #include <memory>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -38,6 +40,11 @@ class Reserve {
   /// below 1, for a negative length, and when that is more than `plafond`.
   [[nodiscard]] std::string Lit(std::int32_t position, std::int32_t longueur,
                                 std::int32_t limite = sansLimite);
+
+  /// Reads a text from its position on into a place of its length, with one call of the disk.
+  /// Returns the number of bytes read, which is less at the end of the file. Throws for a position
+  /// below 1.
+  [[nodiscard]] std::size_t LitDans(std::int32_t position, std::span<char> place);
 
   /// Puts a non-empty text at the end of the pool; the reference is set before the bytes are
   /// written.

@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <variant>
 #include <vector>
@@ -27,7 +28,7 @@ struct VueFromage {
 };
 
 struct VueFromagesTries {
-  std::string lait;  ///< empty while no milk is chosen
+  std::optional<std::string> lait;  ///< the one that is chosen, if any
   std::vector<std::string> fromages;
 };
 
@@ -43,7 +44,7 @@ struct VueVin {
 };
 
 struct VueVinsTries {
-  std::string region;  ///< empty while no region is chosen
+  std::optional<std::string> region;  ///< the one that is chosen, if any
   std::vector<std::string> vins;
 };
 
@@ -72,7 +73,7 @@ struct VueFavori {
 };
 
 struct VueFavorisTries {
-  std::string categorie;  ///< empty while no category is chosen
+  std::optional<std::string> categorie;  ///< the one that is chosen, if any
   std::vector<std::string> favoris;
 };
 

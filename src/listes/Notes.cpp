@@ -32,15 +32,6 @@ std::string_view PrendLigne(std::string_view& reste) {
   return ligne;
 }
 
-template <class Etape>
-void PasseOutre(Etape&& etape) {
-  try {
-    etape();
-  } catch (const ErreurExecution&) {
-    return;  // whatever the step was to do, the next one is tried
-  }
-}
-
 }  // namespace
 
 std::string LitNotes(Module1& module) {

@@ -226,8 +226,13 @@ std::unique_ptr<Fichier> Disque::OuvrePourLire(const std::string& nom) {
 
 std::unique_ptr<Fichier> Disque::Cree(const std::string& nom) {
   Descripteur ouvert = OuvreOuCree(Chemin(nom));
-  Exige(::ftruncate(ouvert.numero(), 0));
-  return std::make_unique<FichierPosix>(std::move(ouvert));
+  const int numero = ouvert.numero();
+  auto fichier = std::make_unique<FichierPosix>(std::move(ouvert));
+  // A file that was cut, even from nothing, has to reach the device before it can be closed.
+  if (fichier->Longueur() > 0) {
+    Exige(::ftruncate(numero, 0));
+  }
+  return fichier;
 }
 
 void Disque::Copie(const std::string& source, const std::string& cible) {

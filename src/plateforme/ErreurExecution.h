@@ -41,4 +41,21 @@ class ErreurExecution : public std::exception {
 /// The failure that stands for an `errno` of the operating system.
 Panne PanneDuSysteme(int codeErrno) noexcept;
 
+/// Runs a step. False if it failed, wherever it stopped.
+template <class Etape>
+[[nodiscard]] bool Reussit(Etape&& etape) {
+  try {
+    etape();
+    return true;
+  } catch (const ErreurExecution&) {
+    return false;
+  }
+}
+
+/// Runs a step whose failure counts for nothing: the next one is tried all the same.
+template <class Etape>
+void PasseOutre(Etape&& etape) {
+  static_cast<void>(Reussit(etape));
+}
+
 }  // namespace gastrelle

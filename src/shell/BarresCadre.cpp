@@ -71,6 +71,7 @@ void BarresCadre::BatitMenus(QMainWindow& cadre) {
     auto* entree = new QAction(titre, &cadre);
     entree->setObjectName(nom);
     entree->setCheckable(ligne.cochable);
+    entree->setAutoRepeat(false);  // a key held down is one command: one page printed
     if (*ligne.touche != '\0') {
       entree->setShortcuts(QKeySequence::listFromString(QString::fromUtf8(ligne.touche)));
     }

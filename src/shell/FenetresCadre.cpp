@@ -112,6 +112,14 @@ QMdiSubWindow& FenetresCadre::Cree(EntreeVue vue) {
   return *fenetre;
 }
 
+FenetreEnfant* FenetresCadre::EnContexte() const {
+  FenetreEnfant* trouvee = nullptr;
+  PourChacune([&](EntreeVue vue, FenetreEnfant& fenetre) {
+    trouvee = EstContexteDe(module_.contexteActif, vue) ? &fenetre : trouvee;
+  });
+  return trouvee;
+}
+
 void FenetresCadre::AppliqueTaille(EntreeVue vue, QMdiSubWindow& fenetre) {
   const bool premiere =
       vue == EntreeVue::recettes && std::exchange(module_.premiereOuverture, false);

@@ -38,6 +38,9 @@ class FenetresCadre {
   void Enumere(QMenu& menu);
   /// The window that is active, or null.
   [[nodiscard]] FenetreEnfant* active() const { return suivi_.active(); }
+  /// The window that the context is about, or null: what is printed, sent or looked at is what this
+  /// one shows. A minimised window may be active without having changed the context.
+  [[nodiscard]] FenetreEnfant* EnContexte() const;
 
  private:
   [[nodiscard]] QMdiSubWindow* TrouveOuverte(EntreeVue vue) const;

@@ -18,6 +18,8 @@
 #include "shell/ImageAssociee.h"
 #include "shell/frmAbout.h"
 #include "shell/frmImage.h"
+#include "sortie/Impression.h"
+#include "sortie/frmExport.h"
 
 namespace gastrelle {
 
@@ -57,6 +59,10 @@ void frmMain::BrancheCommandes() {
   edition("mnuEditPaste", Edition::coller);
   edition("mnuEditSelect", Edition::toutSelectionner);
 
+  barres_.SurCommande("mnuFilePrint", [this] { Imprime(); });
+  barres_.SurCommande("mnuFileExport", [this] { frmExport(module_, this).exec(); });
+  barres_.SurCommande("mnuEditEnvoyerTtx", [this] { Envoie(Extension::doc); });
+  barres_.SurCommande("mnuEditEnvoyerNotePad", [this] { Envoie(Extension::txt); });
   barres_.SurCommande("mnuFilePreferences", [this] { frmPreferences(module_, this).exec(); });
   for (const char* entree :
        {"mnuFileProperties", "mnuFilePropertiesSupp", "mnuFilePropertiesReini"}) {
@@ -111,11 +117,28 @@ QWidget* frmMain::ControleEnUsage() const {
   return active == nullptr ? nullptr : active->focusWidget();
 }
 
+Vue frmMain::VueAffichee() const {
+  const FenetreEnfant* fenetre = fenetres_.EnContexte();
+  return fenetre == nullptr ? Vue{} : fenetre->VueCourante();
+}
+
 std::string frmMain::ImageAffichee() const {
-  const FenetreEnfant* active = fenetres_.active();
-  const Vue vue = active == nullptr ? Vue{} : active->VueCourante();
+  const Vue vue = VueAffichee();
   const auto* recette = std::get_if<VueRecette>(&vue);
   return recette == nullptr ? std::string{} : recette->image;
+}
+
+void frmMain::Imprime() {
+  module_.services.pointeur.Sablier();
+  if (FenetreEnfant* fenetre = fenetres_.EnContexte()) {
+    fenetre->RangeSaisie();
+  }
+  ImprimeVue(module_, VueAffichee());
+}
+
+void frmMain::Envoie(Extension extension) {
+  module_.services.pointeur.Sablier();
+  EnvoieDocument(module_, VueAffichee(), extension);
 }
 
 void frmMain::MontreImage() {

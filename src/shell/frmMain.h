@@ -9,12 +9,14 @@
 
 #include "controles/Cadre.h"
 #include "data/Module1.h"
+#include "data/Vues.h"
 #include "plateforme/Clavier.h"
 #include "shell/Aide.h"
 #include "shell/BarreStatut.h"
 #include "shell/BarresCadre.h"
 #include "shell/FenetresCadre.h"
 #include "shell/GeometrieCadre.h"
+#include "sortie/Envoi.h"
 
 namespace gastrelle {
 
@@ -54,6 +56,9 @@ class frmMain final : public QMainWindow, public Cadre {
   void OuvreAide();
   void RetientPlace() const;
   [[nodiscard]] QWidget* ControleEnUsage() const;
+  void Imprime();
+  void Envoie(Extension extension);
+  [[nodiscard]] Vue VueAffichee() const;
   [[nodiscard]] std::string ImageAffichee() const;
 
   Module1& module_;

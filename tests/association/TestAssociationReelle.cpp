@@ -3,18 +3,17 @@
 // whose lines are written in every way that is met.
 
 #include <chrono>
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <string>
-#include <thread>
 #include <vector>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "doublures/Bibliotheque.h"
+#include "association/BureauEssai.h"
+#include "association/EnvoiReel.h"
+#include "data/Texte1252.h"
 #include "doublures/Entrees.h"
 #include "plateforme/Association.h"
 
@@ -24,28 +23,15 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-const std::filesystem::path* bureau = nullptr;
+const BureauEssai* bureau = nullptr;
 
-constexpr std::chrono::milliseconds unPas{10};
-
-/// The arguments that a handler was given, once it has run; none if it doesn't within that time.
 std::vector<std::string> Recus(std::chrono::milliseconds patience = std::chrono::seconds(5)) {
-  const std::filesystem::path recu = *bureau / "recu";
-  for (auto passe = unPas; passe < patience && !std::filesystem::exists(recu); passe += unPas) {
-    std::this_thread::sleep_for(unPas);
-  }
-  std::ifstream entree(recu);
-  std::vector<std::string> arguments;
-  for (std::string argument; std::getline(entree, argument, '\0');) {
-    arguments.push_back(argument);
-  }
-  std::filesystem::remove(recu);
-  return arguments;
+  return bureau->Recus(patience);
 }
 
 std::string Document(const std::string& nom, const std::string& contenu) {
-  std::ofstream(*bureau / nom) << contenu;
-  return (*bureau / nom).string();
+  std::ofstream(bureau->chemin() / nom) << contenu;
+  return (bureau->chemin() / nom).string();
 }
 
 TEST(AssociationReelle, OuvreUneImageAvecSonProgramme) {
@@ -74,13 +60,29 @@ TEST(AssociationReelle, DitQuAucunProgrammeNOuvreUnTexte) {
             Ouverture::aucuneAssociation);
 }
 
+TEST(AssociationReelle, DitQuAucunProgrammeNOuvreUnDocumentEnvoye) {
+  EnvoiReel envoi;
+  envoi.Envoie(Extension::txt);
+  envoi.Envoie(Extension::doc);
+  std::vector<std::string> dits;
+  for (const MessageVu& message : envoi.b.messages.vus) {
+    EXPECT_EQ(message.icone, Icone::information);
+    dits.push_back(VersUtf8(message.texte));
+  }
+  EXPECT_THAT(dits, ElementsAre("Aucune association n'est définie pour les fichiers *.TXT",
+                                "Aucune association n'est définie pour les fichiers *.DOC"));
+  EXPECT_TRUE(envoi.b.dossier.A("truc.txt"));
+  EXPECT_TRUE(envoi.b.dossier.A("truc.doc"));
+}
+
 TEST(AssociationReelle, UnProgrammeQuiManqueVautAucun) {
   EXPECT_EQ(AssociationSysteme().Ouvre(Document("page.html", "<html></html>")),
             Ouverture::aucuneAssociation);
 }
 
 TEST(AssociationReelle, UnDocumentQuiManqueEstUnAutreEchec) {
-  EXPECT_EQ(AssociationSysteme().Ouvre((*bureau / "absente.png").string()), Ouverture::echec);
+  EXPECT_EQ(AssociationSysteme().Ouvre((bureau->chemin() / "absente.png").string()),
+            Ouverture::echec);
 }
 
 TEST(AssociationReelle, CeQuiNEstPasUnFichierNEstPasAttendu) {
@@ -202,7 +204,7 @@ TEST(AdresseEntiere, UnProgrammeQuiNeLaDemandePasNeLaRecoitPas) {
 }
 
 TEST(TexteSansSchema, NeSOuvrePasDOuQueLeProgrammeParte) {
-  std::filesystem::current_path(*bureau);
+  std::filesystem::current_path(bureau->chemin());
   for (const char* nom : {"photo.png", "www.exemple.fr", "-x", "a:b", "file:photo.png"}) {
     static_cast<void>(Document(nom, "\x89PNG\r\n\x1a\n"));
   }
@@ -256,35 +258,15 @@ TEST(TexteSansSchema, UnOctetNulNEnCacheRien) {
   AttendRien();
 }
 
-/// The desktop: programs for pictures and pages, and those for addresses. Each writes down its
-/// arguments, a null byte behind each.
-void Meuble(const DossierEssai& dossier) {
-  namespace fs = std::filesystem;
-  for (const char* nom : {"data/applications", "config", "systeme"}) {
-    fs::create_directories(*bureau / nom);
-  }
-  fs::create_directory_symlink("/usr/share/mime", *bureau / "systeme/mime");
-  const std::string recu = (*bureau / "recu").string();
-  dossier.Ecrit("ouvreur", "#!/bin/sh\nprintf '%s\\0' \"$@\" > '" + recu + ".~' && mv '" + recu +
-                               ".~' '" + recu + "'\n");
-  fs::permissions(*bureau / "ouvreur", fs::perms::owner_all);
-  const auto programme = [&](const std::string& nom, const std::string& commande,
-                             const std::string& type) {
-    dossier.Ecrit("data/applications/" + nom + ".desktop",
-                  "[Desktop Entry]\nType=Application\nName=" + nom + "\nExec=" + commande +
-                      "\nMimeType=" + type + ";\n");
-  };
-  const std::string ouvreur = (*bureau / "ouvreur").string();
-  programme("images", ouvreur + " %f", "image/png");
-  programme("pages", "/absent/navigateur %f", "text/html");
-  programme("sourd", ouvreur + " \"sans adresse\"", "x-scheme-handler/web+sourd");
+/// Programs for pictures and pages, and those for addresses.
+void Meuble(const BureauEssai& nouveau) {
+  const std::string& ouvreur = nouveau.ouvreur();
+  nouveau.Installe("images", ouvreur + " %f", "image/png");
+  nouveau.Installe("pages", "/absent/navigateur %f", "text/html");
+  nouveau.Installe("sourd", ouvreur + " \"sans adresse\"", "x-scheme-handler/web+sourd");
   for (const Programme& p : programmesDAdresses) {
-    programme(p.schema, ouvreur + p.ligne, std::string("x-scheme-handler/") + p.schema);
+    nouveau.Installe(p.schema, ouvreur + p.ligne, std::string("x-scheme-handler/") + p.schema);
   }
-  ::setenv("HOME", bureau->c_str(), 1);
-  ::setenv("XDG_DATA_HOME", (*bureau / "data").c_str(), 1);
-  ::setenv("XDG_CONFIG_HOME", (*bureau / "config").c_str(), 1);
-  ::setenv("XDG_DATA_DIRS", (*bureau / "systeme").c_str(), 1);
 }
 
 }  // namespace
@@ -292,12 +274,10 @@ void Meuble(const DossierEssai& dossier) {
 
 int main(int argc, char** argv) {
   using namespace gastrelle::essai;
-  const DossierEssai dossier;
-  bureau = &dossier.chemin();
-  Meuble(dossier);
-  if (std::system(
-          ("update-desktop-database '" + (*bureau / "data/applications").string() + "'").c_str()) !=
-      0) {
+  const BureauEssai nouveau;
+  bureau = &nouveau;
+  Meuble(nouveau);
+  if (!nouveau.Publie()) {
     return 2;  // the package desktop-file-utils is missing
   }
   testing::InitGoogleTest(&argc, argv);

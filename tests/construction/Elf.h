@@ -6,6 +6,7 @@
 #include <limits>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace gastrelle::essai {
 
@@ -18,6 +19,9 @@ bool EstChargeable(const std::string& octets);
 
 /// True if they name folders of their own in which to look for libraries.
 bool NommeDesDossiers(const std::string& octets);
+
+/// The names of the libraries that they can't start without.
+std::vector<std::string> BibliothequesDe(const std::string& octets);
 
 /// Where the dynamic section keeps an entry of that tag, as an index into the bytes.
 std::optional<std::size_t> Entree(const std::string& octets, long etiquette);

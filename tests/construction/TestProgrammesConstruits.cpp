@@ -15,8 +15,12 @@ namespace {
 
 namespace fs = std::filesystem;
 using testing::Contains;
+using testing::ContainsRegex;
+using testing::Each;
 using testing::EndsWith;
+using testing::HasSubstr;
 using testing::IsEmpty;
+using testing::Not;
 
 struct Releve {
   std::vector<std::string> chargeables;
@@ -41,6 +45,7 @@ Releve Parcourt(const fs::path& dossier) {
 TEST(ProgrammesConstruits, NeDisentPasOuChercherLeursBibliotheques) {
   const Releve releve = Parcourt(DOSSIER_CONSTRUIT);
   EXPECT_THAT(releve.chargeables, Contains(EndsWith("Gastrelle/gastrelle")));
+  EXPECT_THAT(releve.chargeables, Contains(EndsWith("Gastrelle/imprimante.so")));
   EXPECT_THAT(releve.chargeables, Contains(EndsWith("usine/fabrique")));
   EXPECT_THAT(releve.chargeables, Contains(EndsWith("libpiege.so")));
   EXPECT_THAT(releve.avecDossiers, IsEmpty());
@@ -54,6 +59,7 @@ TEST(ProgrammesConstruits, NeLeDisentPasNonPlusUneFoisInstalles) {
   ASSERT_EQ(std::system(commande.c_str()), 0);
   const Releve releve = Parcourt(la.chemin());
   EXPECT_THAT(releve.chargeables, Contains(EndsWith("/gastrelle")));
+  EXPECT_THAT(releve.chargeables, Contains(EndsWith("/imprimante.so")));
   EXPECT_THAT(releve.avecDossiers, IsEmpty());
 }
 
@@ -67,6 +73,13 @@ TEST(ProgrammesConstruits, UnDossierNommeSeVoit) {
                    sizeof etiquette);
     EXPECT_TRUE(NommeDesDossiers(octets));
   }
+}
+
+TEST(ProgrammesConstruits, LImpressionNEstDemandeeQueParSonModule) {
+  EXPECT_THAT(BibliothequesDe(OctetsDe(MODULE_IMPRIMANTE)), Contains(HasSubstr("PrintSupport")));
+  const std::vector<std::string> duProgramme = BibliothequesDe(OctetsDe(PROGRAMME));
+  EXPECT_THAT(duProgramme, Contains(HasSubstr("libQt6Widgets")));
+  EXPECT_THAT(duProgramme, Each(Not(ContainsRegex("PrintSupport|cups"))));
 }
 
 TEST(ProgrammesConstruits, UnFichierTronqueNEnEstPasUn) {

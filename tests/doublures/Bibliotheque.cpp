@@ -310,7 +310,7 @@ void Bibliotheque::Garnit() {
 
 std::unique_ptr<Module1> Bibliotheque::NouveauModule() {
   return std::make_unique<Module1>(
-      Services{disque, messages, pointeur, horloge, association, son, processus},
+      Services{disque, messages, pointeur, horloge, association, son, processus, imprimantes},
       Chemins(conventionDuSysteme, DepuisUtf8(dossier.chemin().string())));
 }
 

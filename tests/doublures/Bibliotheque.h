@@ -8,6 +8,7 @@
 
 #include "data/Module1.h"
 #include "doublures/DisqueEssai.h"
+#include "doublures/ImprimanteEssai.h"
 #include "doublures/ServicesEssai.h"
 
 namespace gastrelle::essai {
@@ -118,6 +119,7 @@ class Bibliotheque {
   AssociationEssai association;
   SonEssai son;
   ProcessusEssai processus;
+  ImprimantesEssai imprimantes;
   std::unique_ptr<Module1> module;
 
  private:

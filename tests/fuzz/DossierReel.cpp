@@ -46,7 +46,8 @@ std::string Description(const fs::directory_entry& entree) {
 }
 
 std::set<std::string> NomsDuProgramme() {
-  std::set<std::string> noms{"IMAGE", std::string(sauvegarde), std::string(fichierNotes)};
+  std::set<std::string> noms{"IMAGE", std::string(sauvegarde), std::string(fichierNotes),
+                             "export.doc"};
   for (const LigneCatalogue& ligne : catalogueFichiers) {
     noms.emplace(ligne.nom);
   }

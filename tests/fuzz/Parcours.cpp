@@ -13,6 +13,7 @@
 #include "data/Main.h"
 #include "data/ProceduresFichiers.h"
 #include "data/Texte1252.h"
+#include "doublures/ImprimanteEssai.h"
 #include "doublures/ServicesEssai.h"
 #include "favoris/CatalogueFavoris.h"
 #include "fiches/CatalogueFiches.h"
@@ -23,6 +24,7 @@
 #include "listes/Notes.h"
 #include "maintenance/Sauvegarde.h"
 #include "recettes/LectureRecettes.h"
+#include "sortie/Export.h"
 #include "vins/CatalogueMillesimes.h"
 #include "vins/CatalogueVins.h"
 #include "vins/VinsEssai.h"
@@ -39,8 +41,9 @@ void Verifie(bool condition, const char* sinon) {
 class Vie {
  public:
   Vie(AccesFichiers& disque, std::string_view dossier)
-      : module_{{disque, messages_, pointeur_, horloge_, association_, son_, processus_},
-                Chemins(Convention::posix, dossier)} {}
+      : module_{
+            {disque, messages_, pointeur_, horloge_, association_, son_, processus_, imprimantes_},
+            Chemins(Convention::posix, dossier)} {}
 
   [[nodiscard]] Module1& module() { return module_; }
 
@@ -60,6 +63,7 @@ class Vie {
         Favoris();
         ChangeLesVins();
         ChangeLesFavoris();
+        Exporte();
         gueritDisque();
         Notes();
         Courses();
@@ -115,6 +119,13 @@ class Vie {
   static std::vector<std::int32_t> Numeros(const Liste& liste) {
     using Bornes = std::numeric_limits<std::int32_t>;
     std::vector<std::int32_t> numeros{Bornes::min(), -1, 0, 1, 2, 3, Bornes::max()};
+    const std::vector<std::int32_t> siens = NumerosSeuls(liste);
+    numeros.insert(numeros.end(), siens.begin(), siens.end());
+    return numeros;
+  }
+
+  static std::vector<std::int32_t> NumerosSeuls(const Liste& liste) {
+    std::vector<std::int32_t> numeros;
     for (const EntreeListe& entree : liste) {
       numeros.push_back(entree.numero);
     }
@@ -384,6 +395,19 @@ class Vie {
     }
   }
 
+  /// Every family, whatever became of them; nothing of it fails but by a False answer.
+  void Exporte() {
+    Liste familles;
+    Essaie([&] { familles = FamillesAExporter(module_); });
+    const auto famille = Code(module_.bufFamille.courant());
+    const auto recette = Code(module_.bufRecette.courant());
+    static_cast<void>(EcritExport(module_, Numeros(familles), [] {}));
+    Verifie(Code(module_.bufFamille.courant()) == famille &&
+                Code(module_.bufRecette.courant()) == recette,
+            "un export qui change une fiche de travail");
+    bilan_.exporte = EcritExport(module_, NumerosSeuls(familles), [] {});
+  }
+
   /// What is read is what the next start will read. Where nothing could be read nothing stays.
   void Notes() {
     Essaie([&] { bilan_.notes = LitNotes(module_); });
@@ -433,6 +457,7 @@ class Vie {
   AssociationEssai association_;
   SonEssai son_;
   ProcessusEssai processus_;
+  ImprimantesEssai imprimantes_;
   Module1 module_;
   Bilan bilan_;
 };

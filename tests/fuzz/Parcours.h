@@ -1,6 +1,6 @@
 // One life of the program on the folder of an input: the start, every list, every recipe, cheese,
 // menu, tip, wine and favourite, the cellar, the changes of the wines and the favourites, the notes
-// and the aisle texts and their rewriting, the measure of the dead space, the backup.
+// and the aisle texts and their rewriting, the export, the measure of the dead space, the backup.
 #pragma once
 
 #include <optional>
@@ -38,6 +38,7 @@ struct Bilan {
   Lus favoris;                     ///< their addresses, then their notes
   bool favoriPasse = false;        ///< one was added and changed, and its category deleted
   std::size_t favorisChanges = 0;  ///< those of the input that were changed and deleted
+  bool exporte = false;            ///< all recipes are in a document
   std::size_t pannes = 0;          ///< steps that ended in an ErreurExecution
   std::string notes;
   std::size_t rayons = 0;  ///< aisles with a text

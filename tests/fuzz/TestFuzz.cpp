@@ -78,6 +78,7 @@ TEST(Corpus, LesFamillesLesRecettesEtLImageSontLues) {
     EXPECT_EQ(bilan.recettes.size(), 3U);
     EXPECT_THAT(bilan.textes, ElementsAre("Un velouté."_1252, "Mijot", ""));
     EXPECT_THAT(bilan.images, ElementsAre("/gastrelle/IMAGE/soupe.png"));
+    EXPECT_TRUE(bilan.exporte);
   }
 }
 

@@ -21,7 +21,7 @@ struct Piece {
   int etage;
 };
 
-constexpr std::array<Piece, 15> pieces{{
+constexpr std::array<Piece, 16> pieces{{
     {"plateforme", 1},
     {"data", 2},
     {"recettes", 3},
@@ -35,6 +35,7 @@ constexpr std::array<Piece, 15> pieces{{
     {"maintenance", 4},
     {"controles", 5},
     {"images", 5},
+    {"imprimante", 5},
     {"vignobles", 5},
     {"shell", 7},
 }};

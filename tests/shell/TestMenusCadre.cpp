@@ -36,6 +36,18 @@ TEST_F(MenusDuCadre, SontAuCompletDansLeurOrdre) {
                                  Fr("mnuWindow Fe&nêtre"), "mnuHelp &?"}));
 }
 
+TEST_F(MenusDuCadre, UneToucheTenueEnfonceeEstUneSeuleCommande) {
+  Ouvre();
+  int entrees = 0;
+  for (const QAction* action : cadre->findChildren<QAction*>()) {
+    if (action->objectName().startsWith(QLatin1String("mnu")) && !action->shortcuts().isEmpty()) {
+      EXPECT_FALSE(action->autoRepeat()) << action->objectName().toStdString();
+      ++entrees;
+    }
+  }
+  EXPECT_GT(entrees, 5);
+}
+
 TEST_F(MenusDuCadre, Fichier) {
   Ouvre();
   EXPECT_EQ(Lignes(Le<QMenu>("mnuFile")),

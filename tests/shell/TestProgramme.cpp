@@ -1,5 +1,6 @@
 // The program as its user starts and leaves it.
 
+#include <QFileInfo>
 #include <gmock/gmock.h>
 
 #include "doublures/ProgrammeEssai.h"
@@ -31,6 +32,14 @@ TEST_F(Programme, UnFichierALaPlaceDuDossierDesImagesLArrete) {
   EXPECT_THAT(Messages(programme),
               ElementsAre("Erreur d'exécution '75' : Erreur d'accès au fichier"));
   EXPECT_EQ(b.dossier.Lit("IMAGE"), "x");
+}
+
+TEST_F(Programme, CeQuIlLanceCommenceDansSonDossier) {
+  Lance(programme);
+  const QString fenetre = FenetreDe(programme);
+  EXPECT_EQ(QFileInfo(QStringLiteral("/proc/%1/cwd").arg(programme.processId())).symLinkTarget(),
+            QFileInfo(QString::fromStdString(b.dossier.chemin().string())).canonicalFilePath());
+  EXPECT_EQ(FinitPar("ctrl+q", programme, fenetre), 0);
 }
 
 TEST_F(Programme, UnSecondNeSOuvrePasACoteDuPremier) {

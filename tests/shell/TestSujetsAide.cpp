@@ -11,6 +11,7 @@
 #include "shell/FichierAide.h"
 #include "shell/frmAbout.h"
 #include "shell/frmImage.h"
+#include "sortie/frmExport.h"
 
 namespace gastrelle::essai {
 namespace {
@@ -119,11 +120,14 @@ TEST_F(SujetsDAide, LesParagraphesDuCadreEtDesDialoguesSontCeuxDeLeursControles)
   const frmAbout aPropos(*b.module, nullptr);
   const frmSauvegarde sauvegarde(*b.module);
   const frmPreferences preferences(*b.module, nullptr);
+  const frmExport exportation(*b.module, nullptr);
   const frmImage image(*b.module, "x.jpg", nullptr);
   b.module->fichierAide = DepuisUtf8(FICHIER_AIDE);
   Choisit("mnuHelpContents");
   EXPECT_EQ(Absents("aide", {FenetreAide()}), QStringList());
   EXPECT_EQ(Absents("cadre", {cadre.get(), &aPropos, &sauvegarde}), QStringList());
+  // Two of its headings have anchors of their own.
+  EXPECT_EQ(Absents("exporter", {&exportation}), QStringList({"contenu", "messages"}));
   EXPECT_EQ(Absents("preferences", {&preferences}), QStringList());
   EXPECT_EQ(Absents("visualisateur", {&image}), QStringList());
 }

@@ -338,7 +338,7 @@ TEST_F(TrierLesFavoris, LAffichageDUneCategorieSansFavoriEnDitLaLigne) {
 TEST_F(TrierLesFavoris, SansCategorieLAffichageNEnDitAucune) {
   OuvreSurTroisFavoris();
   const auto vue = std::get<VueFavorisTries>(fenetre->VueCourante());
-  EXPECT_EQ(vue.categorie, "");
+  EXPECT_EQ(vue.categorie, std::nullopt);
   EXPECT_THAT(vue.favoris, IsEmpty());
 }
 

@@ -247,7 +247,7 @@ TEST_F(TrierLesFromages, LAffichageDitLeLaitEtSesFromages) {
 TEST_F(TrierLesFromages, SansLaitChoisiLAffichageNEnDitAucun) {
   Ouvre(5);
   const auto vue = std::get<VueFromagesTries>(fenetre->VueCourante());
-  EXPECT_EQ(vue.lait, "");
+  EXPECT_EQ(vue.lait, std::nullopt);
   EXPECT_THAT(vue.fromages, IsEmpty());
 }
 

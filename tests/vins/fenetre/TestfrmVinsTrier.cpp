@@ -363,7 +363,7 @@ TEST_F(TrierLesVins, LAffichageDUneRegionSansVinEnDitLaLigne) {
 TEST_F(TrierLesVins, SansRegionLAffichageNEnDitAucune) {
   OuvreSurTroisVins();
   const auto vue = std::get<VueVinsTries>(fenetre->VueCourante());
-  EXPECT_EQ(vue.region, "");
+  EXPECT_EQ(vue.region, std::nullopt);
   EXPECT_THAT(vue.vins, IsEmpty());
 }
 
