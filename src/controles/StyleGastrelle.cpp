@@ -5,6 +5,9 @@
 
 #include <QListView>
 #include <QStyleOptionComboBox>
+#include <QStyleOptionViewItem>
+
+#include "controles/Teintes.h"
 
 namespace gastrelle {
 
@@ -16,6 +19,21 @@ constexpr int air = 3;  ///< above and below the text in the row of a list
 /// them; and the wheel, which people turn to scroll, changes neither a tab nor a choice.
 constexpr std::array refus{QStyle::SH_ComboBox_Popup, QStyle::SH_ComboBox_AllowWheelScrolling,
                            QStyle::SH_TabBar_AllowWheelScrolling};
+
+/// The style draws the edge of a box in a shade of the window's colour: in the list of a dark
+/// palette nobody would see a box that isn't ticked.
+QPalette AvecBordsVisibles(const QPalette& palette) {
+  constexpr int ombre = 140;  // hundredths, as the style takes it
+  constexpr double visible = 2;
+  constexpr int versLeFond = 30;
+  const QColor fond = palette.color(QPalette::Base);
+  if (Contraste(palette.color(QPalette::Window).darker(ombre), fond) >= visible) {
+    return palette;
+  }
+  QPalette contrastee = palette;
+  contrastee.setColor(QPalette::Window, Melange(palette.color(QPalette::Text), fond, versLeFond));
+  return contrastee;
+}
 
 }  // namespace
 
@@ -40,6 +58,20 @@ QSize StyleGastrelle::sizeFromContents(ContentsType genre, const QStyleOption* o
   const bool rangee =
       genre == CT_ItemViewItem && qobject_cast<const QListView*>(controle) != nullptr;
   return rangee ? taille + QSize(0, 2 * air) : taille;
+}
+
+void StyleGastrelle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
+                                   QPainter* peintre, const QWidget* controle) const {
+  const auto* rangee = element == PE_IndicatorItemViewItemCheck
+                           ? qstyleoption_cast<const QStyleOptionViewItem*>(option)
+                           : nullptr;
+  if (rangee == nullptr) {
+    QProxyStyle::drawPrimitive(element, option, peintre, controle);
+    return;
+  }
+  QStyleOptionViewItem contrastee = *rangee;
+  contrastee.palette = AvecBordsVisibles(rangee->palette);
+  QProxyStyle::drawPrimitive(element, &contrastee, peintre, controle);
 }
 
 void StyleGastrelle::drawControl(ControlElement element, const QStyleOption* option,

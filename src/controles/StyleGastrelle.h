@@ -20,6 +20,8 @@ class StyleGastrelle final : public QProxyStyle {
   [[nodiscard]] QSize sizeFromContents(ContentsType genre, const QStyleOption* option,
                                        const QSize& contenu,
                                        const QWidget* controle) const override;
+  void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* peintre,
+                     const QWidget* controle) const override;
   void drawControl(ControlElement element, const QStyleOption* option, QPainter* peintre,
                    const QWidget* controle) const override;
 };

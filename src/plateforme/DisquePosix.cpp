@@ -226,13 +226,8 @@ std::unique_ptr<Fichier> Disque::OuvrePourLire(const std::string& nom) {
 
 std::unique_ptr<Fichier> Disque::Cree(const std::string& nom) {
   Descripteur ouvert = OuvreOuCree(Chemin(nom));
-  const int numero = ouvert.numero();
-  auto fichier = std::make_unique<FichierPosix>(std::move(ouvert));
-  // A file that was cut, even from nothing, has to reach the device before it can be closed.
-  if (fichier->Longueur() > 0) {
-    Exige(::ftruncate(numero, 0));
-  }
-  return fichier;
+  Exige(::ftruncate(ouvert.numero(), 0));
+  return std::make_unique<FichierPosix>(std::move(ouvert));
 }
 
 void Disque::Copie(const std::string& source, const std::string& cible) {

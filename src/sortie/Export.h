@@ -24,8 +24,8 @@ inline constexpr std::string_view documentExport = "export.doc";
 /// Writes the document: for each of the families, by its record number and in that order, its live
 /// recipes in record order with their whole texts. False on any failure (a data file that is
 /// missing is told): what was written before stays. `entreTemps` runs at every family and recipe.
-/// The recipes' file is read once; its records are kept until the end, their texts some megabytes
-/// at a time.
+/// The recipes' file is read once; what the document needs of it is kept until the end, the texts
+/// aren't.
 [[nodiscard]] bool EcritExport(Module1& module, const std::vector<std::int32_t>& familles,
                                const std::function<void()>& entreTemps);
 

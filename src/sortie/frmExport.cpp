@@ -82,6 +82,7 @@ QWidget* frmExport::ComposeChoix() {
   ListView1_->setUniformRowHeights(true);
   ListView1_->setAllColumnsShowFocus(true);
   ListView1_->header()->setSectionsMovable(false);
+  ListView1_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   ListView1_->installEventFilter(this);
   const QFontMetrics lettres = ListView1_->fontMetrics();
   ListView1_->setMinimumSize(tailleListe.width() * lettres.averageCharWidth(),
@@ -119,12 +120,15 @@ QWidget* frmExport::ComposeEcriture() {
 
 void frmExport::Charge() {
   Garde(module_, [this] {
+    constexpr int air = 6;  // above and below a family together
+    const int hauteurRangee = ListView1_->fontMetrics().lineSpacing() + air;
     QList<QTreeWidgetItem*> entrees;
     for (const EntreeListe& famille : FamillesAExporter(module_)) {
       auto* entree = new QTreeWidgetItem({VersQt(famille.texte), QString::number(famille.numero)});
       entree->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable |
                        Qt::ItemNeverHasChildren);
       entree->setCheckState(nomFamille, Qt::Unchecked);
+      entree->setSizeHint(nomFamille, {0, hauteurRangee});
       entrees.append(entree);
     }
     ListView1_->addTopLevelItems(entrees);
@@ -181,6 +185,7 @@ void frmExport::Ecrit() {
   cmdStop_->setDefault(true);
   cmdStop_->setFocus(Qt::OtherFocusReason);
   module_.services.pointeur.Sablier();
+  repaint();  // where the question stood, at once
   Repeint::Maintenant();
   const bool ecrit = EcritExport(module_, FamillesCochees(), Repeint());
   // Keys and clicks of the meantime meet the dialog as it is: none of them falls to the window
