@@ -1,7 +1,13 @@
 #include "GrandeBibliotheque.h"
 
+#include <algorithm>
 #include <fstream>
+#include <numeric>
+#include <random>
 #include <stdexcept>
+#include <string>
+#include <string_view>
+#include <vector>
 
 #include "Titres.h"
 #include "data/CatalogueFichiers.h"
@@ -33,12 +39,57 @@ LigneRayon Range(std::string& textes, const std::string& texte) {
   return {position, static_cast<std::int32_t>(texte.size())};
 }
 
-void Ecrit(const std::filesystem::path& dossier, Donnees fichier, const std::string& octets) {
-  std::ofstream sortie(dossier / Nom(fichier), std::ios::binary);
-  sortie.write(octets.data(), static_cast<std::streamsize>(octets.size()));
-  if (!sortie.flush()) {
-    throw std::runtime_error("impossible d'écrire " + (dossier / Nom(fichier)).string());
+/// A file as it is written, piece by piece.
+class FichierEcrit {
+ public:
+  FichierEcrit(const std::filesystem::path& dossier, Donnees fichier)
+      : nom_(dossier / Nom(fichier)), sortie_(nom_, std::ios::binary) {}
+
+  void Ajoute(std::string_view octets) {
+    sortie_.write(octets.data(), static_cast<std::streamsize>(octets.size()));
   }
+  /// Throws if any of it couldn't be written.
+  void Finit() {
+    if (!sortie_.flush()) {
+      throw std::runtime_error("impossible d'écrire " + nom_.string());
+    }
+  }
+
+ private:
+  std::filesystem::path nom_;
+  std::ofstream sortie_;
+};
+
+void Ecrit(const std::filesystem::path& dossier, Donnees fichier, const std::string& octets) {
+  FichierEcrit sortie(dossier, fichier);
+  sortie.Ajoute(octets);
+  sortie.Finit();
+}
+
+/// A pool of `nombreRecettes` texts, all of the same length.
+void EcritTextes(const std::filesystem::path& dossier, Titres& titres, std::size_t parTexte) {
+  FichierEcrit sortie(dossier, Donnees::GLR3);
+  sortie.Ajoute(Signature(Donnees::GLR3));
+  std::string texte;
+  for (int i = 0; i < nombreRecettes; ++i) {
+    texte.clear();
+    while (texte.size() < parTexte) {
+      texte += titres.Texte();
+    }
+    sortie.Ajoute(std::string_view(texte).substr(0, parTexte));
+  }
+  sortie.Finit();
+}
+
+/// Which text of the pool each recipe has.
+std::vector<std::int32_t> RangsDesTextes(bool epars) {
+  constexpr std::uint32_t graine = 1066;
+  std::vector<std::int32_t> rangs(nombreRecettes);
+  std::iota(rangs.begin(), rangs.end(), 0);
+  if (epars) {
+    std::shuffle(rangs.begin(), rangs.end(), std::mt19937(graine));
+  }
+  return rangs;
 }
 
 }  // namespace
@@ -70,10 +121,11 @@ void EcritGrandeBibliotheque(const std::filesystem::path& dossier, int nombre) {
   Ecrit(dossier, Donnees::GLR4, std::string(Signature(Donnees::GLR4)));
 }
 
-void EcritGrandCahier(const std::filesystem::path& dossier, bool melees) {
+void EcritGrandCahier(const std::filesystem::path& dossier, const GrandCahier& cahier) {
   constexpr std::uint32_t graine = 1977;
   constexpr std::int32_t premiere = 2;
   constexpr int parFamille = nombreRecettes / nombreFamilles + 1;
+  constexpr int cent = 100;
   Titres titres(graine);
 
   std::string familles = Entete<RecFamille>(Donnees::GLR1, nombreFamilles);
@@ -83,25 +135,24 @@ void EcritGrandCahier(const std::filesystem::path& dossier, bool melees) {
     famille.nomFamille = titres.Titre();
     familles += Octets(famille);
   }
-  std::string recettes = Entete<RecRecette>(Donnees::GLR2, nombreRecettes);
-  std::string textes(Signature(Donnees::GLR3));
+  Ecrit(dossier, Donnees::GLR1, familles);
+  EcritTextes(dossier, titres, cahier.parTexte);
+
+  const std::vector<std::int32_t> rangs = RangsDesTextes(cahier.eparses);
+  std::string recettes;
+  int vivantes = 0;
   for (int i = 0; i < nombreRecettes; ++i) {
-    std::string texte = titres.Texte();
-    while (texte.size() < parTexte) {
-      texte += titres.Texte();
-    }
-    const LigneRayon place = Range(textes, texte.substr(0, parTexte));
     RecRecette recette;
-    recette.actif = vivant;
-    recette.idFamille = premiere + (melees ? i % nombreFamilles : i / parFamille);
+    recette.actif = i % cent < cahier.mortesParCent ? std::int16_t{0} : vivant;
+    vivantes += recette.actif == vivant ? 1 : 0;
+    recette.idFamille = premiere + (cahier.melees ? i % nombreFamilles : i / parFamille);
     recette.nomRecette = titres.Titre();
-    recette.posTexte = place.posTexte;
-    recette.lgTexte = place.lgTexte;
+    recette.lgTexte = static_cast<std::int32_t>(cahier.parTexte);
+    recette.posTexte = static_cast<std::int32_t>(Signature(Donnees::GLR3).size()) + 1 +
+                       rangs[static_cast<std::size_t>(i)] * recette.lgTexte;
     recettes += Octets(recette);
   }
-  Ecrit(dossier, Donnees::GLR1, familles);
-  Ecrit(dossier, Donnees::GLR2, recettes);
-  Ecrit(dossier, Donnees::GLR3, textes);
+  Ecrit(dossier, Donnees::GLR2, Entete<RecRecette>(Donnees::GLR2, vivantes) + recettes);
   Ecrit(dossier, Donnees::GLR4, std::string(Signature(Donnees::GLR4)));
 }
 

@@ -23,6 +23,11 @@ class Cadre {
   virtual void PermetImage(bool permise) = 0;
   /// Shows the picture of the recipe on display in the program's own viewer.
   virtual void MontreImage() = 0;
+  /// Unloads the windows in the order of the view menu, up to that of `derniere`.
+  virtual void Decharge(EntreeVue derniere) = 0;
+  /// Tells that the recipes aren't those any more that were there: once the dialog that is open has
+  /// gone, their window is shown anew.
+  virtual void AnnonceRecettesChangees() = 0;
 };
 
 }  // namespace gastrelle

@@ -135,7 +135,7 @@ void FenetreOnglets::changeEvent(QEvent* evenement) {
 bool FenetreOnglets::PermetOnglet(int vers) {
   const bool refuse = EstRefuse(vers);
   if (refuse) {
-    module().services.son.Joue(CheminSysteme(module(), module().chemins.De("Exclamation")));
+    JoueExclamation(module());
   }
   return !refuse;
 }

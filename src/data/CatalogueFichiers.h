@@ -89,12 +89,26 @@ constexpr std::string_view Signature(Donnees fichier) {
   return ligne.signature.empty() ? ligne.nom : ligne.signature;
 }
 
-/// The factory copy beside a data file: its name with the extension "stp".
-inline std::string NomFabrique(Donnees fichier) {
+/// The name of a data file with another extension, of three letters.
+inline std::string NomAvecExtension(Donnees fichier, std::string_view extension) {
   std::string nom = Nom(fichier);
-  nom.replace(nom.size() - 3, 3, "stp");
+  nom.replace(nom.size() - 3, 3, extension);
   return nom;
 }
+
+/// The factory copy beside a data file.
+inline std::string NomFabrique(Donnees fichier) {
+  return NomAvecExtension(fichier, "stp");
+}
+
+/// What stands beside a data file while it is rebuilt or replaced.
+inline std::string NomTemporaire(Donnees fichier) {
+  return NomAvecExtension(fichier, "tmp");
+}
+
+/// Families, recipes, texts, picture paths: the four files that only make sense together.
+inline constexpr std::array<Donnees, 4> fichiersRecettes{Donnees::GLR1, Donnees::GLR2,
+                                                         Donnees::GLR3, Donnees::GLR4};
 
 /// Number of the last record that the factory brought, which can't be deleted.
 constexpr std::int32_t DernierProtege(Donnees fichier) {

@@ -4,7 +4,7 @@ namespace gastrelle {
 
 Encombrement MesureRecettes(Module1& module) {
   Encombrement mesure;
-  for (const Donnees fichier : {Donnees::GLR1, Donnees::GLR2, Donnees::GLR3, Donnees::GLR4}) {
+  for (const Donnees fichier : fichiersRecettes) {
     mesure.taille += Ouvert(module.Place(fichier)).Longueur();
   }
   mesure.necessaire =

@@ -92,16 +92,16 @@ class FichierEnregistrements {
   /// `visite(numero)` for each until it answers False. Records are fetched many at a time.
   template <class Visite>
   void ParcourtTous(T& dans, Visite&& visite) {
-    ParcourtJusqua(Nombre(), dans, visite);
+    ParcourtEntre(2, Nombre(), dans, visite);
   }
 
-  /// The same up to record `dernier`; what lies beyond the end of the file reads as zeros. A visit
-  /// may write the record that it is at.
+  /// The same from record `premier` to record `dernier`; what lies beyond the end of the file reads
+  /// as zeros. A visit may write the record that it is at.
   template <class Visite>
-  void ParcourtJusqua(std::int64_t dernier, T& dans, Visite&& visite) {
+  void ParcourtEntre(std::int64_t premier, std::int64_t dernier, T& dans, Visite&& visite) {
     std::vector<char> bloc;
-    for (std::int64_t numero = 2; numero <= dernier; ++numero) {
-      const auto rang = static_cast<std::size_t>((numero - 2) % parBloc);
+    for (std::int64_t numero = premier; numero <= dernier; ++numero) {
+      const auto rang = static_cast<std::size_t>((numero - premier) % parBloc);
       if (rang == 0) {
         LitBloc(numero, std::min<std::int64_t>(parBloc, dernier - numero + 1), bloc);
       }

@@ -20,37 +20,26 @@ constexpr std::string_view dossierImages = "IMAGE";
   module.services.processus.Termine(1);
 }
 
-/// Copies the factory copy of a missing file; without one the program ends, the user being told.
-void RestaureFichier(Module1& module, Donnees fichier, std::string& chemin) {
+/// The factory copy of a missing file must be there; without one the program ends, the user being
+/// told.
+void ExigeFabrique(Module1& module, Donnees fichier, std::string& chemin) {
   const std::string fabrique = NomFabrique(fichier);
   chemin = module.chemins.De(fabrique);
   if (!FichierExisteMsg(module, fabrique)) {
     module.services.processus.Termine(1);
   }
-  chemin = module.chemins.De(Nom(fichier));
-  module.services.disque.Copie(fabrique, Nom(fichier));
-}
-
-/// The header of the recipes keeps the day on which they came from the factory.
-void DateRestauration(Module1& module) {
-  RecRecette entete;
-  module.bufRecette.Lit(1, entete);
-  entete.idFamille = NumeroJour(module.services.horloge.Aujourdhui());
-  module.bufRecette.Ecrit(1, entete);
 }
 
 void PrepareFichier(Module1& module, Donnees fichier, std::string& chemin) {
-  const bool present = FichierExiste(module, Nom(fichier));
-  if (present) {
+  if (FichierExiste(module, Nom(fichier))) {
     chemin = module.chemins.De(Nom(fichier));
+    Ouvre(module, fichier);
+    VerifieEntete(module, fichier);
   } else {
-    RestaureFichier(module, fichier, chemin);
+    ExigeFabrique(module, fichier, chemin);
+    chemin = module.chemins.De(Nom(fichier));
+    RestaureDeFabrique(module, fichier);
   }
-  Ouvre(module, fichier);
-  if (!present && fichier == Donnees::GLR2) {
-    DateRestauration(module);
-  }
-  VerifieEntete(module, fichier);
 }
 
 void PrepareDonnees(Module1& module) {

@@ -20,18 +20,8 @@ bool Trouve(Recherche&& recherche) {
 
 void VerifieCompteEtSignature(Module1& module, Donnees fichier) {
   module.AvecCatalogue(fichier, [&](auto& catalogue) {
-    const LigneCatalogue& ligne = Ligne(fichier);
     catalogue.LitEntete();
-    if (catalogue.nbActifs() < ligne.moindre) {
-      throw ErreurExecution(Panne::fichierIntrouvable);
-    }
-    auto& signature = NomOuSignature(catalogue.entete());
-    const std::string lue(ligne.rognage == Rognage::deuxBouts ? Rogne(signature.brut())
-                                                              : RogneDroite(signature.brut()));
-    signature = lue;
-    if (lue != Signature(fichier)) {
-      throw ErreurExecution(Panne::fichierIntrouvable);
-    }
+    ExigeEntete(fichier, catalogue.entete());
   });
 }
 
@@ -124,9 +114,27 @@ void VerifieEntete(Module1& module, Donnees fichier) {
   }
 }
 
+void RestaureDeFabrique(Module1& module, Donnees fichier) {
+  module.services.disque.Copie(NomFabrique(fichier), Nom(fichier));
+  Ouvre(module, fichier);
+  if (fichier == Donnees::GLR2) {
+    RecRecette entete;
+    module.bufRecette.Lit(1, entete);
+    entete.idFamille = NumeroJour(module.services.horloge.Aujourdhui());
+    module.bufRecette.Ecrit(1, entete);
+  }
+  VerifieEntete(module, fichier);
+}
+
+void FermeFichiersRecettes(Module1& module) {
+  for (const Donnees fichier : fichiersRecettes) {
+    module.Place(fichier).reset();
+  }
+}
+
 bool OuvreFichiersRecettes(Module1& module, bool verifier) {
   try {
-    for (const Donnees fichier : {Donnees::GLR1, Donnees::GLR2, Donnees::GLR3, Donnees::GLR4}) {
+    for (const Donnees fichier : fichiersRecettes) {
       Ouvre(module, fichier);
       if (verifier) {
         VerifieEntete(module, fichier);
@@ -136,6 +144,10 @@ bool OuvreFichiersRecettes(Module1& module, bool verifier) {
   } catch (const ErreurExecution&) {
     return false;
   }
+}
+
+void JoueExclamation(Module1& module) {
+  module.services.son.Joue(CheminSysteme(module, module.chemins.De("Exclamation")));
 }
 
 void ErreurFatale(Module1& module) {

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "data/Module1.h"
+#include "data/Texte1252.h"
 
 namespace gastrelle {
 
@@ -39,9 +40,35 @@ void Ouvre(Module1& module, Donnees fichier);
 /// The header test of a file's row of the table; raises error 53 on a bad header.
 void VerifieEntete(Module1& module, Donnees fichier);
 
+/// The same test on the header of a file that is kept apart, once it has been read.
+template <class T>
+void ExigeEntete(Donnees fichier, T& entete) {
+  const LigneCatalogue& ligne = Ligne(fichier);
+  if (entete.actif < ligne.moindre) {
+    throw ErreurExecution(Panne::fichierIntrouvable);
+  }
+  auto& signature = NomOuSignature(entete);
+  const std::string lue(ligne.rognage == Rognage::deuxBouts ? Rogne(signature.brut())
+                                                            : RogneDroite(signature.brut()));
+  signature = lue;
+  if (lue != Signature(fichier)) {
+    throw ErreurExecution(Panne::fichierIntrouvable);
+  }
+}
+
+/// Puts the factory copy of a data file in its place, opens it, writes today's date into the header
+/// of the recipes, and tests what was put there. Throws on a failure.
+void RestaureDeFabrique(Module1& module, Donnees fichier);
+
+/// Closes the four recipe files.
+void FermeFichiersRecettes(Module1& module);
+
 /// Reopens the four recipe files, in order, with the header test if `verifier` asks for it. The
 /// first failure stops the sequence and answers False; nothing is reported.
 [[nodiscard]] bool OuvreFichiersRecettes(Module1& module, bool verifier);
+
+/// Plays the program's sound, a warning or a refusal, without waiting for its end.
+void JoueExclamation(Module1& module);
 
 /// Pointer to normal, a beep, the fatal message, the end of the process with status 1.
 [[noreturn]] void ErreurFatale(Module1& module);

@@ -135,7 +135,7 @@ void SupprimeCategorie(Module1& module, std::int32_t numero) {
   ExigeFichier(module, Donnees::GLFV1);
   ExigeFavoris(module);
   RecFavori& favori = module.bufFavori.courant();
-  module.bufFavori.ParcourtJusqua(DernierVisite(module), favori, [&](std::int32_t numeroFavori) {
+  module.bufFavori.ParcourtEntre(2, DernierVisite(module), favori, [&](std::int32_t numeroFavori) {
     if (favori.actif == vivant && favori.idCategorie == numero) {
       favori.actif = supprime;
       module.bufFavori.EcritCourant(numeroFavori);

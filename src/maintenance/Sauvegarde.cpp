@@ -16,8 +16,8 @@ bool CopieSecurite(Module1& module) {
     if (!DossierExiste(module, dossier)) {
       disque.CreeDossier(dossier);
     }
-    for (const Donnees fichier : {Donnees::GLR1, Donnees::GLR2, Donnees::GLR3, Donnees::GLR4}) {
-      disque.Copie(Nom(fichier), dossier + "/" + Nom(fichier));
+    for (const Donnees fichier : fichiersRecettes) {
+      disque.Copie(Nom(fichier), NomDeSauvegarde(fichier));
     }
     return true;
   } catch (const ErreurExecution&) {

@@ -64,17 +64,34 @@ void frmSauvegarde::reject() {
 }
 
 void frmSauvegarde::showEvent(QShowEvent* evenement) {
+  constexpr int auPlusTard = 500;
   QDialog::showEvent(evenement);
+  CopieDans(auPlusTard);
+}
+
+void frmSauvegarde::paintEvent(QPaintEvent* evenement) {
+  QDialog::paintEvent(evenement);
+  CopieDans(0);
+}
+
+void frmSauvegarde::CopieDans(int millisecondes) {
   if (etape_ == Etape::attente) {
-    etape_ = Etape::enCours;
-    QTimer::singleShot(0, this, &frmSauvegarde::Copie);
+    QTimer::singleShot(millisecondes, this, &frmSauvegarde::Copie);
   }
 }
 
 void frmSauvegarde::Copie() {
+  if (etape_ != Etape::attente) {
+    return;
+  }
+  etape_ = Etape::enCours;
   module_.services.pointeur.Sablier();
-  repaint();
   const bool reussie = CopieSecurite(module_);
+  // What was typed meanwhile comes first, and meets a dialog that can't be left yet.
+  QTimer::singleShot(0, this, [this, reussie] { Conclut(reussie); });
+}
+
+void frmSauvegarde::Conclut(bool reussie) {
   etape_ = Etape::finie;
   module_.services.pointeur.Normal();
   if (!reussie) {

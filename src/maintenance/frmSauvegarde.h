@@ -17,13 +17,16 @@ class frmSauvegarde final : public QDialog {
   void reject() override;
 
  protected:
-  /// The first showing starts the copy.
+  /// The copy starts once the dialog is seen, or soon after where nobody can see it.
   void showEvent(QShowEvent* evenement) override;
+  void paintEvent(QPaintEvent* evenement) override;
 
  private:
   enum class Etape { attente, enCours, finie };
 
+  void CopieDans(int millisecondes);
   void Copie();
+  void Conclut(bool reussie);
 
   Module1& module_;
   QLabel* lblTache_;

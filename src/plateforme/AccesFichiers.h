@@ -7,6 +7,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace gastrelle {
 
@@ -27,6 +28,10 @@ class Fichier {
 
   /// Length in bytes, as it stands now.
   virtual std::int64_t Longueur() = 0;
+
+  /// Brings what was written to the device itself: from then on a power cut takes none of it, as
+  /// long as the file's name is there as well.
+  virtual void Synchronise() = 0;
 };
 
 /// The program's folder. Names are bare names in that folder, or a name in one of its own folders
@@ -58,7 +63,14 @@ class AccesFichiers {
   virtual void Supprime(const std::string& nom) = 0;
   virtual void Renomme(const std::string& nom, const std::string& nouveau) = 0;
   virtual void CreeDossier(const std::string& nom) = 0;
+  /// Deletes a folder that is empty.
   virtual void SupprimeDossier(const std::string& nom) = 0;
+  /// Brings to the device which files a folder holds, and under which names: what was made, renamed
+  /// or deleted there. An empty name: the program's folder. Where the system can't, nothing
+  /// happens.
+  virtual void SynchroniseNoms(const std::string& dossier) = 0;
+  /// Names of the files (not the folders) that a folder holds, in the order of their bytes.
+  virtual std::vector<std::string> FichiersDe(const std::string& dossier) = 0;
 };
 
 }  // namespace gastrelle

@@ -23,6 +23,8 @@ class Disque final : public AccesFichiers {
   void Renomme(const std::string& nom, const std::string& nouveau) override;
   void CreeDossier(const std::string& nom) override;
   void SupprimeDossier(const std::string& nom) override;
+  void SynchroniseNoms(const std::string& dossier) override;
+  std::vector<std::string> FichiersDe(const std::string& dossier) override;
 
  private:
   [[nodiscard]] std::filesystem::path Chemin(const std::string& nom) const;

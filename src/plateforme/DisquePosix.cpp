@@ -1,8 +1,10 @@
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <fcntl.h>
 #include <string>
 #include <sys/stat.h>
+#include <system_error>
 #include <unistd.h>
 #include <vector>
 
@@ -123,6 +125,8 @@ class FichierPosix final : public Fichier {
     return etat.st_size;
   }
 
+  void Synchronise() override { Exige(::fsync(descripteur_.numero())); }
+
  private:
   Descripteur descripteur_;
 };
@@ -183,14 +187,26 @@ class Remplacant {
   Descripteur descripteur_;
 };
 
-/// Copies all bytes of a file into another.
+/// Has what was written to a part of a file set out for the device, where it is waited for later. A
+/// file system that can't do so brings it there when it is waited for.
+void MetEnRoute(const Descripteur& fichier, std::int64_t decalage, std::int64_t longueur) {
+  static_cast<void>(::sync_file_range(fichier.numero(), decalage, longueur, SYNC_FILE_RANGE_WRITE));
+}
+
+/// Copies all bytes of a file into another. The device takes what is copied while the rest is read.
 void CopieOctets(const Descripteur& lecture, const Descripteur& ecriture) {
   constexpr std::size_t tailleBloc = 1U << 18U;
+  constexpr std::int64_t tailleEnvoi = 1U << 23U;
+  std::int64_t envoyes = 0;
   std::vector<char> bloc(tailleBloc);
   std::int64_t decalage = 0;
   while (const std::size_t lus = LitOctets(lecture, decalage, bloc)) {
     EcritOctets(ecriture, decalage, {bloc.data(), lus});
     decalage += static_cast<std::int64_t>(lus);
+    if (decalage - envoyes >= tailleEnvoi) {
+      MetEnRoute(ecriture, envoyes, decalage - envoyes);
+      envoyes = decalage;
+    }
   }
 }
 
@@ -253,6 +269,32 @@ void Disque::CreeDossier(const std::string& nom) {
 
 void Disque::SupprimeDossier(const std::string& nom) {
   Exige(::rmdir(Chemin(nom).c_str()));
+}
+
+void Disque::SynchroniseNoms(const std::string& dossier) {
+  const Descripteur ouvert(::open(Chemin(dossier).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  const bool sansObjet = ouvert.numero() < 0;  // a folder that may be used but not read
+  if (!sansObjet && ::fsync(ouvert.numero()) != 0 && errno != EINVAL) {
+    Echoue();
+  }
+}
+
+std::vector<std::string> Disque::FichiersDe(const std::string& dossier) {
+  std::vector<std::string> noms;
+  std::error_code erreur;
+  std::filesystem::directory_iterator entree(Chemin(dossier), erreur);
+  for (; !erreur && entree != std::filesystem::directory_iterator(); entree.increment(erreur)) {
+    // What a link leads to isn't looked at: the link is what lies here.
+    std::error_code inconnue;
+    if (entree->symlink_status(inconnue).type() != std::filesystem::file_type::directory) {
+      noms.push_back(entree->path().filename().string());
+    }
+  }
+  if (erreur) {
+    throw ErreurExecution(PanneDuSysteme(erreur.value()));
+  }
+  std::sort(noms.begin(), noms.end());
+  return noms;
 }
 
 }  // namespace gastrelle

@@ -139,10 +139,18 @@ void FenetresCadre::PourChacune(const std::function<void(EntreeVue, FenetreEnfan
   }
 }
 
-void FenetresCadre::DechargeTout() {
-  PourChacune([this](EntreeVue vue, FenetreEnfant& fenetre) {
-    fenetre.Decharge();
-    ouvertes_.erase(vue);
+void FenetresCadre::Deplie(EntreeVue vue) {
+  if (QMdiSubWindow* fenetre = TrouveOuverte(vue)) {
+    VaA(*fenetre);
+  }
+}
+
+void FenetresCadre::Decharge(EntreeVue derniere) {
+  PourChacune([&](EntreeVue vue, FenetreEnfant& fenetre) {
+    if (vue <= derniere) {
+      fenetre.Decharge();
+      ouvertes_.erase(vue);
+    }
   });
 }
 

@@ -29,8 +29,10 @@ class FenetresCadre {
   void Montre(EntreeVue vue);
   /// The same, the window then being maximised.
   void MontreMaximisee(EntreeVue vue);
-  /// Unloads all windows, in the order of the view menu.
-  void DechargeTout();
+  /// Gives a minimised window its size back.
+  void Deplie(EntreeVue vue);
+  /// Unloads the windows up to that one, in the order of the view menu; all if it isn't told.
+  void Decharge(EntreeVue derniere = EntreeVue::mesCourses);
   /// Has all windows write what they would when they are unloaded, in the same order. They stay as
   /// they are, to the place of the cursor.
   void EnregistreTout();

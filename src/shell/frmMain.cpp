@@ -11,7 +11,11 @@
 #include "data/Courses.h"
 #include "data/ProceduresFichiers.h"
 #include "maintenance/frmPreferences.h"
+#include "maintenance/frmProprietes.h"
+#include "maintenance/frmReinitialisation.h"
 #include "maintenance/frmSauvegarde.h"
+#include "maintenance/frmSuppRecette.h"
+#include "recherche/frmRechercher.h"
 #include "shell/AireFenetres.h"
 #include "shell/CommandesEdition.h"
 #include "shell/Disposition.h"
@@ -60,14 +64,17 @@ void frmMain::BrancheCommandes() {
   edition("mnuEditSelect", Edition::toutSelectionner);
 
   barres_.SurCommande("mnuFilePrint", [this] { Imprime(); });
-  barres_.SurCommande("mnuFileExport", [this] { frmExport(module_, this).exec(); });
+  barres_.SurCommande("mnuFileExport", [this] { Ouvre(frmExport(module_, this)); });
   barres_.SurCommande("mnuEditEnvoyerTtx", [this] { Envoie(Extension::doc); });
   barres_.SurCommande("mnuEditEnvoyerNotePad", [this] { Envoie(Extension::txt); });
-  barres_.SurCommande("mnuFilePreferences", [this] { frmPreferences(module_, this).exec(); });
-  for (const char* entree :
-       {"mnuFileProperties", "mnuFilePropertiesSupp", "mnuFilePropertiesReini"}) {
-    barres_.SurCommande(entree, [this] { SuiteMaintenance(); });
-  }
+  barres_.SurCommande("mnuFilePreferences", [this] { Ouvre(frmPreferences(module_, this)); });
+  barres_.SurCommande("mnuFileProperties",
+                      [this] { Maintient(FrmProprietes(module_, *this, this)); });
+  barres_.SurCommande("mnuFilePropertiesSupp",
+                      [this] { Maintient(frmSuppRecette(module_, *this, this)); });
+  barres_.SurCommande("mnuFilePropertiesReini",
+                      [this] { Maintient(frmReinitialisation(module_, *this, this)); });
+  barres_.SurCommande("mnuEditRechercher", [this] { Cherche(); });
   barres_.SurCommande("mnuFileExit", [this] { close(); });
   barres_.SurCommande("mnuViewBarreOutils",
                       [this] { Bascule("mnuViewBarreOutils", barres_.barre()); });
@@ -77,7 +84,7 @@ void frmMain::BrancheCommandes() {
   barres_.SurCommande("mnuViewImageVisuInterne", [this] { MontreImage(); });
   barres_.SurCommande("mnuHelpContents", [this] { OuvreAide(); });
   barres_.SurCommande("mnuHelpGlSurLeWeb", [this] { OuvreLien(module_, Lien::site); });
-  barres_.SurCommande("mnuHelpAbout", [this] { frmAbout(module_, this).exec(); });
+  barres_.SurCommande("mnuHelpAbout", [this] { Ouvre(frmAbout(module_, this)); });
   barres_.Entree("mnuViewBarreOutils").setChecked(true);
   barres_.Entree("mnuViewBarreStatut").setChecked(true);
 }
@@ -94,7 +101,7 @@ void frmMain::BrancheFenetres() {
   dispose("mnuWindowTileHorizontal", Disposition::mosaiqueHorizontale);
   dispose("mnuWindowTileVertical", Disposition::mosaiqueVerticale);
   dispose("mnuWindowArrangeIcons", Disposition::icones);
-  barres_.SurCommande("mnuWindowClose", [this] { fenetres_.DechargeTout(); });
+  barres_.SurCommande("mnuWindowClose", [this] { fenetres_.Decharge(); });
   QMenu& menu = barres_.Menu("mnuWindow");
   connect(&menu, &QMenu::aboutToShow, this, [this, &menu] { fenetres_.Enumere(menu); });
 }
@@ -105,10 +112,39 @@ void frmMain::Bascule(const char* entree, QWidget& barre) {
   barre.setVisible(action.isChecked());
 }
 
-void frmMain::SuiteMaintenance() {
+void frmMain::Decharge(EntreeVue derniere) {
+  Enregistre();
+  fenetres_.Decharge(derniere);
+}
+
+void frmMain::AnnonceRecettesChangees() {
+  setProperty("Tag", QStringLiteral("ok"));
+}
+
+int frmMain::Ouvre(QDialog&& dialogue) {
+  const int issue = dialogue.exec();
+  // A message and the dialog under it that go together leave some desktops without a window.
+  activateWindow();
+  return issue;
+}
+
+void frmMain::Maintient(QDialog&& dialogue) {
+  Ouvre(std::move(dialogue));
   if (property("Tag").toString() == QLatin1String("ok")) {
     fenetres_.MontreMaximisee(EntreeVue::recettes);
     setProperty("Tag", QString());
+  }
+}
+
+void frmMain::Cherche() {
+  if (FenetreEnfant* fenetre = fenetres_.EnContexte()) {
+    module_.services.pointeur.Sablier();
+    if (Ouvre(frmRechercher(module_, *fenetre, this)) == QDialog::Accepted) {
+      fenetres_.Deplie(fenetre->description().vue);
+    }
+    if (module_.erreurFatale) {
+      ErreurFatale(module_);
+    }
   }
 }
 
@@ -143,7 +179,7 @@ void frmMain::Envoie(Extension extension) {
 
 void frmMain::MontreImage() {
   module_.services.pointeur.Sablier();
-  frmImage(module_, ImageAffichee(), this).exec();
+  Ouvre(frmImage(module_, ImageAffichee(), this));
 }
 
 void frmMain::OuvreAide() {
@@ -197,7 +233,7 @@ void frmMain::closeEvent(QCloseEvent* evenement) {
   if (std::exchange(fermee_, true)) {
     return;
   }
-  fenetres_.DechargeTout();
+  fenetres_.Decharge();
   aide_.Quitte();
   RetientPlace();
   hide();

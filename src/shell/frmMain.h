@@ -4,6 +4,7 @@
 
 #include <functional>
 
+#include <QDialog>
 #include <QMainWindow>
 #include <QMdiArea>
 
@@ -31,6 +32,10 @@ class frmMain final : public QMainWindow, public Cadre {
   void Coche(EntreeVue vue) override;
   void PermetImage(bool permise) override;
   void MontreImage() override;
+  /// What windows and memory hold alone is written before: the work that begins may end the
+  /// program.
+  void Decharge(EntreeVue derniere) override;
+  void AnnonceRecettesChangees() override;
 
   /// Writes to the disk what only the windows and the memory hold: notes, aisle texts. Nothing is
   /// closed or asked, and it may be called again. After a failure that ends the program, or once
@@ -52,7 +57,12 @@ class frmMain final : public QMainWindow, public Cadre {
   void BrancheCommandes();
   void BrancheFenetres();
   void Bascule(const char* entree, QWidget& barre);
-  void SuiteMaintenance();
+  /// Shows a dialog until it is left; the keyboard then comes back to the frame. What its `exec`
+  /// answers.
+  int Ouvre(QDialog&& dialogue);
+  /// Shows a dialog that may replace the recipes; their window is then shown anew.
+  void Maintient(QDialog&& dialogue);
+  void Cherche();
   void OuvreAide();
   void RetientPlace() const;
   [[nodiscard]] QWidget* ControleEnUsage() const;

@@ -3,8 +3,8 @@
 #pragma once
 
 #include <cstdint>
-#include <memory>
 
+#include "data/LectureEnAvance.h"
 #include "data/Reserve.h"
 #include "sortie/FluxTexte.h"
 
@@ -13,23 +13,15 @@ namespace gastrelle {
 /// For as long as nothing is written to the pool.
 class TextesSuivis {
  public:
-  explicit TextesSuivis(Reserve& reserve);
+  explicit TextesSuivis(Reserve& reserve) : reserve_(reserve), avance_(reserve) {}
 
   /// Adds a whole text to the document, with a line end. Throws as `Reserve::Lit` does for it, and
   /// as the document does.
   void EcritDans(FluxTexte& flux, std::int32_t position, std::int32_t longueur);
 
  private:
-  [[nodiscard]] bool EstLu(std::int64_t position, std::int64_t longueur) const {
-    return debut_ <= position && position + longueur <= fin_;
-  }
-  void LitEnAvance(std::int32_t position);
-
   Reserve& reserve_;
-  std::unique_ptr<char[]> avance_;  // NOLINT(modernize-avoid-c-arrays): read ahead
-  std::int64_t debut_ = 0;          ///< where that lies in the pool
-  std::int64_t fin_ = 0;
-  std::int64_t suite_ = 0;  ///< behind the text that was written last
+  LectureEnAvance avance_;
 };
 
 }  // namespace gastrelle

@@ -2,8 +2,7 @@
 
 #include <algorithm>
 
-#include <QCoreApplication>
-#include <QElapsedTimer>
+#include <QEvent>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -12,6 +11,7 @@
 
 #include "controles/Boutons.h"
 #include "controles/Conversion.h"
+#include "controles/Repeint.h"
 #include "controles/Touches.h"
 #include "data/ProceduresFichiers.h"
 #include "sortie/Envoi.h"
@@ -23,24 +23,6 @@ namespace {
 constexpr int marge = 14;
 constexpr QSize tailleListe{62, 16};  ///< letters of mean width, lines
 enum Colonne { nomFamille, numeroOrdre };
-
-/// Shows what has changed on the screen now and then, and lets nothing else in.
-class Repeint {
- public:
-  Repeint() { depuis_.start(); }
-
-  void operator()() {
-    constexpr int cadence = 50;  // milliseconds
-    if (depuis_.hasExpired(cadence)) {
-      Maintenant();
-      depuis_.start();
-    }
-  }
-  static void Maintenant() { QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents); }
-
- private:
-  QElapsedTimer depuis_;
-};
 
 }  // namespace
 
@@ -188,9 +170,7 @@ void frmExport::Ecrit() {
   repaint();  // where the question stood, at once
   Repeint::Maintenant();
   const bool ecrit = EcritExport(module_, FamillesCochees(), Repeint());
-  // Keys and clicks of the meantime meet the dialog as it is: none of them falls to the window
-  // behind, or into a message.
-  QCoreApplication::processEvents();
+  EcouleSaisies();
   module_.services.pointeur.Normal();
   if (ecrit) {
     OuvreDocument(module_, std::string(documentExport), Extension::doc);

@@ -44,7 +44,7 @@ class FichierFamilles : public testing::Test {
   /// Numbers of the records up to `dernier`, as the walk hands them out.
   std::vector<std::int32_t> ParcourtJusqua(std::int64_t dernier) {
     std::vector<std::int32_t> numeros;
-    fichier.ParcourtJusqua(dernier, fichier.courant(), [&](std::int32_t numero) {
+    fichier.ParcourtEntre(2, dernier, fichier.courant(), [&](std::int32_t numero) {
       numeros.push_back(numero);
       return true;
     });
@@ -251,7 +251,7 @@ TEST_F(FichierFamilles, NeSeLisentPasPourUnNumeroSousDeux) {
 TEST_F(FichierFamilles, SeParcourentEnZerosDerriereLeurFin) {
   Pose(1, {vivant});
   std::vector<std::int16_t> actifs;
-  fichier.ParcourtJusqua(4, fichier.courant(), [&](std::int32_t) {
+  fichier.ParcourtEntre(2, 4, fichier.courant(), [&](std::int32_t) {
     actifs.push_back(fichier.courant().actif);
     return true;
   });
@@ -262,14 +262,14 @@ TEST_F(FichierFamilles, SeParcourentEnZerosDerriereLeurFin) {
 
 TEST_F(FichierFamilles, SArretentAvantLeNumeroQuandLaVisiteLeDemande) {
   Pose(3, {vivant, vivant, vivant});
-  fichier.ParcourtJusqua(4, fichier.courant(), [](std::int32_t numero) { return numero < 3; });
+  fichier.ParcourtEntre(2, 4, fichier.courant(), [](std::int32_t numero) { return numero < 3; });
   EXPECT_EQ(fichier.courant().nomFamille.brut(), Nom128("n3"));
 }
 
 // 504 records of 130 bytes are fetched at a time.
 TEST_F(FichierFamilles, SEcriventPendantQuOnLesParcourtDUnePartieALaSuivante) {
   Pose(600, std::vector<std::int16_t>(600, vivant));
-  fichier.ParcourtJusqua(601, fichier.courant(), [&](std::int32_t numero) {
+  fichier.ParcourtEntre(2, 601, fichier.courant(), [&](std::int32_t numero) {
     EXPECT_EQ(fichier.courant().nomFamille.brut(), Nom128("n" + std::to_string(numero)));
     fichier.courant().actif = supprime;
     fichier.EcritCourant(numero);

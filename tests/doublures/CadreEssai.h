@@ -24,12 +24,16 @@ class CadreEssai final : public Cadre {
   void Coche(EntreeVue vue) override { cochee = vue; }
   void PermetImage(bool permise) override { imagePermise = permise; }
   void MontreImage() override { ++imagesMontrees; }
+  void Decharge(EntreeVue derniere) override { dechargee = derniere; }
+  void AnnonceRecettesChangees() override { recettesChangees = true; }
 
   std::vector<std::int16_t> contextes;
   std::vector<EntreeVue> quittes;
   std::optional<EntreeVue> cochee;
   std::optional<bool> imagePermise;
   int imagesMontrees = 0;
+  std::optional<EntreeVue> dechargee;  ///< the last one of those that were to go
+  bool recettesChangees = false;
 
  private:
   Module1& module_;

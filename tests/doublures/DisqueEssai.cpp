@@ -32,6 +32,11 @@ class FichierEssai final : public Fichier {
     return vrai_->Longueur();
   }
 
+  void Synchronise() override {
+    disque_.Note("synchronise " + nom_);
+    vrai_->Synchronise();
+  }
+
  private:
   DisqueEssai& disque_;
   std::string nom_;
@@ -143,6 +148,16 @@ void DisqueEssai::CreeDossier(const std::string& nom) {
 void DisqueEssai::SupprimeDossier(const std::string& nom) {
   Note("enlève " + nom);
   disque_.SupprimeDossier(nom);
+}
+
+void DisqueEssai::SynchroniseNoms(const std::string& dossier) {
+  Note("synchronise " + dossier + "/");
+  disque_.SynchroniseNoms(dossier);
+}
+
+std::vector<std::string> DisqueEssai::FichiersDe(const std::string& dossier) {
+  Note("énumère " + dossier);
+  return disque_.FichiersDe(dossier);
 }
 
 }  // namespace gastrelle::essai

@@ -23,7 +23,8 @@ class DisqueEssai final : public AccesFichiers {
   /// One line a call, in order: "existe GLR1.DAT", "dossier? IMAGE", "ailleurs? /x.png",
   /// "ouvre GLR1.DAT", "lit GLR1.DAT 0+130", "écrit GLR1.DAT 130+130", "longueur GLR1.DAT",
   /// "copie GLR1.stp GLR1.DAT", "supprime X", "renomme X Y", "crée IMAGE", "enlève SAUVE",
-  /// "consulte X" (opened for reading alone), "crée X" (a file as well).
+  /// "consulte X" (opened for reading alone), "crée X" (a file as well), "synchronise X",
+  /// "synchronise TEMP/" (the names of a folder), "énumère TEMP".
   /// Offsets count from 0.
   [[nodiscard]] const std::vector<std::string>& journal() const { return journal_; }
   /// The lines that begin with "écrit", "copie", "supprime", "renomme", "crée" or "enlève".
@@ -56,6 +57,8 @@ class DisqueEssai final : public AccesFichiers {
   void Renomme(const std::string& nom, const std::string& nouveau) override;
   void CreeDossier(const std::string& nom) override;
   void SupprimeDossier(const std::string& nom) override;
+  void SynchroniseNoms(const std::string& dossier) override;
+  std::vector<std::string> FichiersDe(const std::string& dossier) override;
 
   /// Notes a call; throws if it has to fail, after `moitie` when half of a write is to be done.
   void Note(const std::string& ligne, const std::function<void()>& moitie = {});

@@ -41,6 +41,8 @@ class FichierMemoire final : public Fichier {
     return static_cast<std::int64_t>(octets_->size());
   }
 
+  void Synchronise() override { disque_.Compte(); }
+
  private:
   DisqueMemoire& disque_;
   std::shared_ptr<std::string> octets_;
@@ -122,8 +124,25 @@ void DisqueMemoire::CreeDossier(const std::string& nom) {
 }
 
 void DisqueMemoire::SupprimeDossier(const std::string& nom) {
-  Compte();
+  Exige(FichiersDe(nom).empty(), Panne::accesFichier);
   Exige(dossiers_.erase(nom) == 1, Panne::cheminIntrouvable);
+}
+
+void DisqueMemoire::SynchroniseNoms(const std::string& /*dossier*/) {
+  Compte();
+}
+
+std::vector<std::string> DisqueMemoire::FichiersDe(const std::string& dossier) {
+  Compte();
+  Exige(dossiers_.contains(dossier), Panne::cheminIntrouvable);
+  std::vector<std::string> noms;
+  const std::string debut = dossier + "/";
+  for (const auto& [nom, octets] : fichiers_) {
+    if (nom.starts_with(debut)) {
+      noms.push_back(nom.substr(debut.size()));
+    }
+  }
+  return noms;
 }
 
 }  // namespace gastrelle::essai

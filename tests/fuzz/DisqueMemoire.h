@@ -40,6 +40,8 @@ class DisqueMemoire final : public AccesFichiers {
   void Renomme(const std::string& nom, const std::string& nouveau) override;
   void CreeDossier(const std::string& nom) override;
   void SupprimeDossier(const std::string& nom) override;
+  void SynchroniseNoms(const std::string& dossier) override;
+  std::vector<std::string> FichiersDe(const std::string& dossier) override;
 
   /// One call of the disk goes by; throws if it is the one that fails.
   void Compte();

@@ -18,10 +18,15 @@ namespace fs = std::filesystem;
 
 constexpr const char* temoin = "ne pas toucher";
 constexpr std::string_view sauvegarde = "SAUVE";
+constexpr std::string_view copies = "TEMP";  // of the cleaning
 constexpr std::array recettes{Donnees::GLR1, Donnees::GLR2, Donnees::GLR3, Donnees::GLR4};
 
 std::string NomSauve(Donnees fichier) {
   return std::string(sauvegarde) + "/" + Nom(fichier);
+}
+
+std::string NomCopie(Donnees fichier) {
+  return std::string(copies) + "/" + Nom(fichier);
 }
 
 void Ecrit(const fs::path& fichier, std::string_view octets) {
@@ -51,8 +56,9 @@ std::set<std::string> NomsDuProgramme() {
   for (const LigneCatalogue& ligne : catalogueFichiers) {
     noms.emplace(ligne.nom);
   }
+  noms.emplace(copies);
   for (const Donnees fichier : recettes) {
-    noms.insert(NomSauve(fichier));
+    noms.insert({NomSauve(fichier), NomTemporaire(fichier), NomCopie(fichier)});
   }
   return noms;
 }
@@ -140,6 +146,10 @@ const std::vector<std::string>& NomsDuDossier() {
       n.insert(n.end(), {NomSauve(fichier), NomSauve(fichier) + "~"});
     }
     n.emplace_back(fichierNotes);
+    n.emplace_back(copies);
+    for (const Donnees fichier : recettes) {
+      n.push_back(NomTemporaire(fichier));
+    }
     return n;
   }();
   return noms;

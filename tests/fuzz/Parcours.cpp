@@ -5,7 +5,9 @@
 #include <cmath>
 #include <functional>
 #include <limits>
+#include <optional>
 #include <stdexcept>
+#include <tuple>
 
 #include "data/Courses.h"
 #include "data/EspaceMort.h"
@@ -22,8 +24,11 @@
 #include "fuzz/DossierReel.h"
 #include "fuzz/Entree.h"
 #include "listes/Notes.h"
+#include "maintenance/Nettoyage.h"
+#include "maintenance/Remplacement.h"
 #include "maintenance/Sauvegarde.h"
 #include "recettes/LectureRecettes.h"
+#include "recherche/Recherche.h"
 #include "sortie/Export.h"
 #include "vins/CatalogueMillesimes.h"
 #include "vins/CatalogueVins.h"
@@ -64,12 +69,14 @@ class Vie {
         ChangeLesVins();
         ChangeLesFavoris();
         Exporte();
+        Cherche();
         gueritDisque();
         Notes();
         Courses();
         Essaie([&] { static_cast<void>(MesureRecettes(module_)); });
         Essaie([&] { static_cast<void>(OuvreFichiersRecettes(module_, true)); });
         bilan_.copie = CopieSecurite(module_);
+        Entretient();
       }
     } catch (const FinDuProgramme& fin) {
       bilan_.fin = fin.statut;
@@ -408,6 +415,42 @@ class Vie {
     bilan_.exporte = EcritExport(module_, NumerosSeuls(familles), [] {});
   }
 
+  void Cherche() {
+    const auto deTravail = [&] {
+      return std::tuple{Code(module_.bufRecette.courant()), Code(module_.bufMenu.courant()),
+                        Code(module_.bufTruc.courant())};
+    };
+    const auto avant = deTravail();
+    for (const CatalogueCherche& catalogue : cataloguesCherches) {
+      for (const std::string_view quoi : {"o", "un velout", "\r\n"}) {
+        Essaie([&] { CherchePartout(catalogue, quoi); });
+      }
+    }
+    Verifie(deTravail() == avant, "une recherche qui change une fiche de travail");
+  }
+
+  /// The first hits, one after the other: each one holds what is looked for.
+  void CherchePartout(const CatalogueCherche& catalogue, std::string_view quoi) {
+    constexpr int assez = 5;
+    Recherche recherche(module_, catalogue, quoi);
+    std::int32_t derniere = 1;
+    for (int i = 0; i < assez; ++i) {
+      const std::optional<Occurrence> trouvee = recherche.Suivante();
+      if (!trouvee) {
+        return;
+      }
+      Verifie(trouvee->numero > derniere, "une recherche qui recule");
+      const std::string& ou = trouvee->dansTitre ? trouvee->titre : trouvee->texte;
+      Verifie(Majuscules(ou).find(Majuscules(quoi)) != std::string::npos,
+              "une fiche trouvée sans ce qu'on y cherche");
+      derniere = trouvee->numero;
+      bilan_.trouvees.emplace_back(Rogne(trouvee->titre));
+      if (recherche.EstFinie()) {
+        return;
+      }
+    }
+  }
+
   /// What is read is what the next start will read. Where nothing could be read nothing stays.
   void Notes() {
     Essaie([&] { bilan_.notes = LitNotes(module_); });
@@ -428,6 +471,33 @@ class Vie {
     SauveCourses(module_);
     Verifie(Essaie([&] { ChargeCourses(module_); }), "des rayons illisibles après leur écriture");
     Verifie(module_.texteRayon == avant, "un rayon changé par son écriture");
+  }
+
+  /// The recipes as the next start would open them: cleaned, left alone, as the factory had them.
+  /// Where one of these ends the program, those behind it aren't tried.
+  void Entretient() {
+    bilan_.nettoye =
+        OuvreFichiersRecettes(module_, true) && Essaie([&] {
+          const std::int16_t nettoyees = NettoieRecettes(module_);
+          Verifie(nettoyees == module_.bufRecette.nbActifs(), "un nettoyage qui compte autrement");
+          Verifie(MesureRecettes(module_).gain() == 0, "un nettoyage qui laisse des pertes");
+        });
+    bilan_.videe = Remplace(FabriqueUneRecette);
+    Verifie(!bilan_.videe || module_.bufRecette.nbActifs() == 1, "plus d'une recette qui reste");
+    bilan_.restauree = bilan_.videe && Remplace(FabriqueOrigines);
+  }
+
+  /// False: the program would have ended, saying so.
+  bool Remplace(FabriqueRecettes fabrique) {
+    try {
+      RemplaceRecettes(module_, fabrique);
+      return true;
+    } catch (const FinDuProgramme&) {
+      Verifie(messages_.vus.back().texte == "Erreur fatale. Impossibilité de continuer."_1252,
+              "une fin sans son message");
+      messages_.vus.pop_back();
+      return false;
+    }
   }
 
   /// Every message is one of those about a file; behind the last one the program may say that it

@@ -1,6 +1,7 @@
 // One life of the program on the folder of an input: the start, every list, every recipe, cheese,
 // menu, tip, wine and favourite, the cellar, the changes of the wines and the favourites, the notes
-// and the aisle texts and their rewriting, the export, the measure of the dead space, the backup.
+// and the aisle texts and their rewriting, the export, some searches, the measure of the dead
+// space, the backup, then the cleaning, the emptying and the reinitialising of the recipes.
 #pragma once
 
 #include <optional>
@@ -35,14 +36,18 @@ struct Bilan {
   bool vinPasse = false;          ///< one was added, changed, and deleted with its region
   std::size_t vinsChanges = 0;    ///< those of the input that were changed and deleted
   Liste categories;
-  Lus favoris;                     ///< their addresses, then their notes
-  bool favoriPasse = false;        ///< one was added and changed, and its category deleted
-  std::size_t favorisChanges = 0;  ///< those of the input that were changed and deleted
-  bool exporte = false;            ///< all recipes are in a document
-  std::size_t pannes = 0;          ///< steps that ended in an ErreurExecution
+  Lus favoris;                        ///< their addresses, then their notes
+  bool favoriPasse = false;           ///< one was added and changed, and its category deleted
+  std::size_t favorisChanges = 0;     ///< those of the input that were changed and deleted
+  bool exporte = false;               ///< all recipes are in a document
+  std::vector<std::string> trouvees;  ///< titles that the searches came upon
+  std::size_t pannes = 0;             ///< steps that ended in an ErreurExecution
   std::string notes;
   std::size_t rayons = 0;  ///< aisles with a text
   bool copie = false;      ///< the backup was made
+  bool nettoye = false;    ///< the recipe files were cleaned
+  bool videe = false;      ///< a single recipe was left
+  bool restauree = false;  ///< the recipes of the factory came back
   std::vector<std::string> messages;
 };
 

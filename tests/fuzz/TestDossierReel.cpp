@@ -27,7 +27,9 @@ TEST_F(SurveillanceDuDossier, LesNomsDuProgrammeSontPermis) {
   dossier.Pose({});
   dossier.disque().CreeDossier("SAUVE");
   dossier.disque().CreeDossier("IMAGE");
-  for (const char* nom : {"GLR1.DAT", "GLPREF.DAT", "SAUVE/GLR4.DAT"}) {
+  dossier.disque().CreeDossier("TEMP");
+  for (const char* nom :
+       {"GLR1.DAT", "GLPREF.DAT", "SAUVE/GLR4.DAT", "GLR4.tmp", "TEMP/GLR1.DAT"}) {
     Ecrit(nom);
   }
   EXPECT_NO_THROW(dossier.Verifie());
@@ -35,7 +37,7 @@ TEST_F(SurveillanceDuDossier, LesNomsDuProgrammeSontPermis) {
 
 TEST_F(SurveillanceDuDossier, UnNomProvisoireLaisseEstDit) {
   dossier.Pose({});
-  for (const char* nom : {"GLR1.DAT~", "GLR1.DAT.a7", "SAUVE/GLF1.DAT"}) {
+  for (const char* nom : {"GLR1.DAT~", "GLR1.DAT.a7", "SAUVE/GLF1.DAT", "GLF1.tmp"}) {
     dossier.disque().CreeDossier("SAUVE");
     Ecrit(nom);
     EXPECT_THROW(dossier.Verifie(), std::logic_error) << nom;

@@ -82,6 +82,28 @@ TEST(Corpus, LesFamillesLesRecettesEtLImageSontLues) {
   }
 }
 
+TEST(Corpus, LaRechercheTrouveDansLesTitresEtDansLesTextes) {
+  EXPECT_THAT(Graine("deux-familles").trouvees,
+              ElementsAre("Velouté"_1252, "Bœuf à l'ancienne"_1252, "Velouté"_1252));
+  EXPECT_THAT(Graine("autres-catalogues").trouvees, ElementsAre("Noël"_1252));
+  EXPECT_THAT(Graine("vide").trouvees, IsEmpty());
+}
+
+TEST(Corpus, LesRecettesSeNettoientSeVidentEtReviennent) {
+  const Bilan bilan = Graine("en-fabrique");
+  EXPECT_TRUE(bilan.nettoye);
+  EXPECT_TRUE(bilan.videe);
+  EXPECT_TRUE(bilan.restauree);
+  EXPECT_EQ(bilan.fin, std::nullopt);
+}
+
+TEST(Corpus, SansCopiesDeFabriqueLesRecettesSeNettoientSeulement) {
+  const Bilan bilan = Graine("deux-familles");
+  EXPECT_TRUE(bilan.nettoye);
+  EXPECT_FALSE(bilan.videe);
+  EXPECT_FALSE(bilan.restauree);
+}
+
 TEST(Corpus, LesComptesFauxArretentLesListesSansPlus) {
   EXPECT_EQ(Graine("comptes-trop-bas").recettes.size(), 1U);
   EXPECT_EQ(Graine("comptes-trop-hauts").recettes.size(), 3U);

@@ -31,6 +31,25 @@ using testing::EndsWith;
 using testing::Field;
 using testing::IsSupersetOf;
 
+/// Looks for something, goes on and shows what was found; a dialog that doesn't search stays as it
+/// is.
+void Cherche(const QDialog& dialogue) {
+  auto* saisie = dialogue.findChild<QLineEdit*>("txtSaisie");
+  if (saisie == nullptr || !saisie->isEnabled()) {
+    return;
+  }
+  saisie->setText(QStringLiteral("sa"));
+  Trouve<QPushButton>(dialogue, "cmdOk").click();
+  for (const char* suite : {"cmdContinuer", "cmdContinuer", "cmdActiver"}) {
+    for (auto* bouton : dialogue.findChildren<QPushButton*>()) {
+      if (bouton->objectName().startsWith(QLatin1String(suite)) && dialogue.isVisible()) {
+        bouton->click();
+        QApplication::processEvents();
+      }
+    }
+  }
+}
+
 /// A dialog that has been painted goes as soon as it lets itself be closed.
 class Huissier {
  public:
@@ -40,6 +59,7 @@ class Huissier {
       if (auto* dialogue = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
         QApplication::processEvents();
         vus.insert(dialogue->objectName().toStdString());
+        Cherche(*dialogue);
         dialogue->reject();
       }
     });
@@ -223,6 +243,11 @@ class Promenade : public CadreVrai,
         Choisit("mnuViewImageVisuInterne");
       }
     });
+    Fait([&] {
+      if (Permis("mnuEditRechercher")) {
+        Choisit("mnuEditRechercher");
+      }
+    });
   }
   void Visite(int onglet) {
     Fait([&] { VaA(onglet); });
@@ -252,6 +277,7 @@ INSTANTIATE_TEST_SUITE_P(Toutes, Promenade,
 
 TEST_P(Promenade, VaAuBout) {
   const bool aDesListes = !Le(ligne.nom).findChildren<QComboBox*>().empty();
+  const bool seFouille = Permis("mnuEditRechercher");
   for (int onglet = 1; onglet <= ligne.onglets(); ++onglet) {
     Visite(onglet);
   }
@@ -262,6 +288,7 @@ TEST_P(Promenade, VaAuBout) {
   if (abime.abime == nullptr) {
     EXPECT_EQ(fins, 0);
     EXPECT_EQ(recherches > 0, aDesListes);
+    EXPECT_EQ(huissier.vus.contains("frmRechercher"), seFouille);
     // Nothing was refused but the deletion of a region of the factory.
     EXPECT_THAT(b.messages.vus,
                 Each(Field(&MessageVu::texte, EndsWith(DepuisUtf8("peut être supprimée")))));

@@ -7,7 +7,11 @@
 #include "doublures/CadreVrai.h"
 #include "doublures/ToutesFenetres.h"
 #include "maintenance/frmPreferences.h"
+#include "maintenance/frmProprietes.h"
+#include "maintenance/frmReinitialisation.h"
 #include "maintenance/frmSauvegarde.h"
+#include "maintenance/frmSuppRecette.h"
+#include "recherche/frmRechercher.h"
 #include "shell/FichierAide.h"
 #include "shell/frmAbout.h"
 #include "shell/frmImage.h"
@@ -59,6 +63,11 @@ class SujetsDAide : public CadreVrai {
   }
 
   static QUrl Adresse() { return Trouve<QTextBrowser>(*FenetreAide(), "txtPage").source(); }
+
+  FenetreEnfant& Enfant(const char* entree, const char* nom) {
+    Choisit(entree);
+    return dynamic_cast<FenetreEnfant&>(Le(nom));
+  }
 
   /// The controls of a window that a page of the help names and that aren't there.
   static QStringList Absents(const QString& sujet, const QList<const QObject*>& fenetres) {
@@ -122,6 +131,12 @@ TEST_F(SujetsDAide, LesParagraphesDuCadreEtDesDialoguesSontCeuxDeLeursControles)
   const frmPreferences preferences(*b.module, nullptr);
   const frmExport exportation(*b.module, nullptr);
   const frmImage image(*b.module, "x.jpg", nullptr);
+  const frmRechercher recettes(*b.module, Enfant("mnuViewRecettes", "frmRecettes"), nullptr);
+  const frmRechercher menus(*b.module, Enfant("mnuViewMenus", "frmMenus"), nullptr);
+  const frmRechercher trucs(*b.module, Enfant("mnuViewTermesTrucsAstuces", "frmTrucs"), nullptr);
+  const FrmProprietes nettoyage(*b.module, *cadre, nullptr);
+  const frmSuppRecette suppression(*b.module, *cadre, nullptr);
+  const frmReinitialisation reinitialisation(*b.module, *cadre, nullptr);
   b.module->fichierAide = DepuisUtf8(FICHIER_AIDE);
   Choisit("mnuHelpContents");
   EXPECT_EQ(Absents("aide", {FenetreAide()}), QStringList());
@@ -129,7 +144,11 @@ TEST_F(SujetsDAide, LesParagraphesDuCadreEtDesDialoguesSontCeuxDeLeursControles)
   // Two of its headings have anchors of their own.
   EXPECT_EQ(Absents("exporter", {&exportation}), QStringList({"contenu", "messages"}));
   EXPECT_EQ(Absents("preferences", {&preferences}), QStringList());
+  EXPECT_EQ(Absents("rechercher", {&recettes, &menus, &trucs}), QStringList());
   EXPECT_EQ(Absents("visualisateur", {&image}), QStringList());
+  EXPECT_EQ(Absents("nettoyage", {&nettoyage}), QStringList());
+  EXPECT_EQ(Absents("vider", {&suppression}), QStringList());
+  EXPECT_EQ(Absents("reinitialiser", {&reinitialisation}), QStringList());
 }
 
 TEST_F(SujetsDAide, F1DUnControleDefileASonParagraphe) {

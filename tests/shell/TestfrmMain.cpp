@@ -358,8 +358,8 @@ TEST_F(Cadre, LaMarqueOkRouvreLesRecettesMaximisees) {
   recettes().close();
   QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   b.module->prefs[0].fenetreNormale = 1;
-  cadre->setProperty("Tag", "ok");
-  Choisit("mnuFileProperties");
+  AvecDialogue([&] { Choisit("mnuFileProperties"); },
+               [&](QDialog&) { cadre->AnnonceRecettesChangees(); });
   EXPECT_TRUE(recettes().isMaximized());
   EXPECT_EQ(cadre->property("Tag").toString(), "");
 }
@@ -368,7 +368,7 @@ TEST_F(Cadre, SansMarqueLaMaintenanceNeRouvreRien) {
   Ouvre();
   Choisit("mnuWindowClose");
   QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-  Choisit("mnuFilePropertiesReini");
+  AvecDialogue([&] { Choisit("mnuFilePropertiesReini"); }, [](QDialog&) {});
   EXPECT_THAT(enfants().subWindowList(), IsEmpty());
 }
 

@@ -1,5 +1,6 @@
 // The backup dialog, through its controls.
 
+#include <QKeyEvent>
 #include <QTest>
 #include <QTimer>
 #include <gmock/gmock.h>
@@ -26,7 +27,7 @@ class DialogueSauvegarde : public testing::Test {
 
   void MontreEtAttend() {
     dialogue->show();
-    QApplication::processEvents();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return ok().isVisible() || !dialogue->isVisible(); }));
   }
 
   QWidget& ok() { return Trouve(*dialogue, "cmdOk"); }
@@ -89,6 +90,24 @@ TEST_F(DialogueSauvegarde, LeSablierDureAutantQueLaCopie) {
   EXPECT_FALSE(b.pointeur.sablier);
 }
 
+TEST_F(DialogueSauvegarde, UneToucheFrappeePendantLaCopieNeLaCachePasAuLecteur) {
+  b.disque.pendant = [&](const std::string&) {
+    for (const int touche : {Qt::Key_Return, Qt::Key_Escape}) {
+      QApplication::postEvent(dialogue.get(),
+                              new QKeyEvent(QEvent::KeyPress, touche, Qt::NoModifier));
+    }
+  };
+  MontreEtAttend();
+  EXPECT_TRUE(ok().isVisible());
+  EXPECT_EQ(Tache(), Fr("effectuée avec succès"));
+}
+
+TEST_F(DialogueSauvegarde, LaCopieCommenceAussiOuPersonneNePeutVoirLeDialogue) {
+  dialogue->setUpdatesEnabled(false);
+  MontreEtAttend();
+  EXPECT_TRUE(b.dossier.A("SAUVE/GLR4.DAT"));
+}
+
 TEST_F(DialogueSauvegarde, UneCopieManqueeRendAussiLePointeur) {
   b.disque.EchoueSur("copie GLR2.DAT", Panne::disquePlein);
   MontreEtAttend();
@@ -128,10 +147,9 @@ TEST_F(DialogueSauvegarde, UneCopieManqueeFaitDisparaitreLeDialogueSansUnMot) {
 TEST_F(DialogueSauvegarde, ModalIlAttendLeClicSurOk) {
   bool fini = false;
   QTimer::singleShot(0, [&] {
-    QTimer::singleShot(0, [&] {
-      fini = Tache() == Fr("effectuée avec succès");
-      Clique(ok());
-    });
+    EXPECT_TRUE(QTest::qWaitFor([&] { return ok().isVisible(); }));
+    fini = Tache() == Fr("effectuée avec succès");
+    Clique(ok());
   });
   EXPECT_EQ(dialogue->exec(), QDialog::Accepted);
   EXPECT_TRUE(fini);
