@@ -56,8 +56,8 @@ class Recherche {
   Recherche(Module1& module, const CatalogueCherche& catalogue, std::string_view texte);
 
   /// The next record that holds it, or nothing at the end of the data. The two files must still be
-  /// there (the user is told when one isn't). `entreTemps` is called
-  /// before each record. Throws on a failure.
+  /// there (the user is told when one isn't). `entreTemps` is called before each record. Throws
+  /// on a failure.
   [[nodiscard]] std::optional<Occurrence> Suivante(const std::function<void()>& entreTemps = [] {});
 
   /// True where continuing ends without another look: the record examined last was the last live
