@@ -234,20 +234,20 @@ class Promenade : public CadreVrai,
     QTest::keyClick(&recherche, Qt::Key_Return);
     FenetreAide()->close();
   }
+  /// Chooses a menu entry from within an event, as a user does: where the program ends in a
+  /// handler, the end must not cross the toolkit's own frames.
+  void Demande(const char* entree) {
+    Fait([&] { QTimer::singleShot(0, cadre.get(), [this, entree] { Choisit(entree); }); });
+  }
   void OuvreDialogues() {
-    for (const char* entree : {"mnuHelpAbout", "mnuFilePreferences"}) {
-      Fait([&] { Choisit(entree); });
+    Demande("mnuHelpAbout");
+    Demande("mnuFilePreferences");
+    if (Permis("mnuViewImage")) {
+      Demande("mnuViewImageVisuInterne");
     }
-    Fait([&] {
-      if (Permis("mnuViewImage")) {
-        Choisit("mnuViewImageVisuInterne");
-      }
-    });
-    Fait([&] {
-      if (Permis("mnuEditRechercher")) {
-        Choisit("mnuEditRechercher");
-      }
-    });
+    if (Permis("mnuEditRechercher")) {
+      Demande("mnuEditRechercher");
+    }
   }
   void Visite(int onglet) {
     Fait([&] { VaA(onglet); });
