@@ -7,6 +7,7 @@
 #include "data/Limites.h"
 #include "data/Texte1252.h"
 #include "usine/Source.h"
+#include "usine/Usages.h"
 
 namespace gastrelle::usine {
 namespace {
@@ -16,20 +17,74 @@ using namespace std::string_view_literals;
 constexpr Mesure nomLong{1, limiteNom, formes::nom};
 constexpr Mesure nomCourt{1, 64, formes::nom};
 constexpr Mesure nomFichier{1, 64, formes::brut};
-constexpr Mesure note{200, std::size_t{limiteTexte}};
-constexpr Mesure fiche{120, std::size_t{limiteTexte}};
-constexpr Mesure ligne{1, 2000, formes::phrase};
-constexpr Mesure ligneLibre{0, 2000, formes::phrase};
-constexpr Mesure conseil{25, 2000, formes::phrase};
+constexpr Mesure portrait{200, std::size_t{limiteTexte},
+                          formes::Soumet(formes::prose, usages::portrait)};
+constexpr Mesure noteDeVin{200, std::size_t{limiteTexte},
+                           formes::Soumet(formes::prose, usages::portrait | usages::vin)};
+constexpr Mesure menu{
+    120, std::size_t{limiteTexte},
+    formes::Soumet(formes::prose, usages::portrait | usages::cuisine | usages::fourneau)};
+constexpr Mesure truc{120, std::size_t{limiteTexte},
+                      formes::Soumet(formes::prose, usages::cuisine)};
+constexpr Forme deRecette =
+    formes::Soumet(formes::phrase, usages::recette | usages::cuisine | usages::fourneau);
+constexpr Mesure ligne{1, 2000, deRecette};
+constexpr Mesure ligneLibre{0, 2000, deRecette};
+constexpr Mesure ingredient{1, 2000, formes::Soumet(formes::phrase, usages::ingredient)};
+constexpr Mesure conseil{25, 2000, deRecette};
+
+/// What the advice of a recipe begins with, in the form that goes to file.
+constexpr std::string_view legendeConseil = "Conseil\xA0: ";
 
 constexpr std::array laits{"?"sv, "vache"sv, "chèvre"sv, "brebis"sv};
 constexpr std::array mois{"?"sv,       "janvier"sv,  "février"sv, "mars"sv, "avril"sv,
                           "mai"sv,     "juin"sv,     "juillet"sv, "août"sv, "septembre"sv,
                           "octobre"sv, "novembre"sv, "décembre"sv};
+/// The great regions that cheeses and recipes stand under; a recipe may have none.
+constexpr std::array grandesRegions{""sv,
+                                    "Alsace"sv,
+                                    "Aquitaine"sv,
+                                    "Auvergne"sv,
+                                    "Bourgogne"sv,
+                                    "Bretagne"sv,
+                                    "Champagne"sv,
+                                    "Corse"sv,
+                                    "Dauphiné et Vivarais"sv,
+                                    "Franche-Comté"sv,
+                                    "Gascogne et Pyrénées"sv,
+                                    "Île-de-France"sv,
+                                    "Languedoc et Roussillon"sv,
+                                    "Limousin"sv,
+                                    "Lorraine"sv,
+                                    "Lyonnais"sv,
+                                    "Nord et Picardie"sv,
+                                    "Normandie"sv,
+                                    "Pays basque et Béarn"sv,
+                                    "Pays de la Loire"sv,
+                                    "Périgord et Quercy"sv,
+                                    "Poitou et Charentes"sv,
+                                    "Provence"sv,
+                                    "Rouergue"sv,
+                                    "Savoie"sv,
+                                    "Val de Loire"sv};
+constexpr std::array saisons{"toute l'année"sv,
+                             "printemps"sv,
+                             "printemps et été"sv,
+                             "du printemps à l'automne"sv,
+                             "été"sv,
+                             "été et automne"sv,
+                             "de l'été à l'hiver"sv,
+                             "automne"sv,
+                             "automne et hiver"sv,
+                             "de l'automne au printemps"sv,
+                             "hiver"sv,
+                             "hiver et printemps"sv,
+                             "de l'hiver à l'été"sv};
 constexpr std::array clesFamille{"nom"sv, "fichier"sv, "illustration"sv};
 constexpr std::array clesRegion{"nom"sv, "fichier"sv};
-constexpr std::array clesRecette{"titre"sv, "pour"sv,        "preparation"sv, "cuisson"sv,
-                                 "repos"sv, "ingredients"sv, "etapes"sv,      "conseil"sv};
+constexpr std::array clesRecette{"titre"sv,       "saison"sv,  "region"sv, "pour"sv,
+                                 "preparation"sv, "cuisson"sv, "repos"sv,  "ingredients"sv,
+                                 "etapes"sv,      "conseil"sv, "image"sv};
 constexpr std::array clesVin{"nom"sv, "texte"sv};
 constexpr std::array clesFromage{"nom"sv, "region"sv, "lait"sv, "de"sv, "a"sv, "texte"sv};
 constexpr std::array clesFiche{"titre"sv, "texte"sv};
@@ -75,13 +130,14 @@ class Lecture {
     Recettes();
     Vins();
     Fromages();
-    Fiches("menus.toml", "menu", lus_.menus);
-    Fiches("trucs.toml", "truc", lus_.trucs);
+    Fiches("menus.toml", "menu", menu, lus_.menus);
+    Fiches("trucs.toml", "truc", truc, lus_.trucs);
     Favoris();
     Millesimes();
     if (journal_.refus().empty()) {  // an unread entry would be missed again in the counts
       ExigeNombres();
       ExigeToutLu();
+      ExigeVariete();
     }
     return std::move(lus_);
   }
@@ -103,7 +159,8 @@ class Lecture {
       nomsUniques.Exige(e, "nom", noms.back());
       const std::string source = e.Texte("fichier", nomFichier);
       const bool neuf = fichiersUniques.Exige(e, "fichier", source);
-      groupes.push_back({neuf ? FichierDe(e, dossier, source) : "", Illustration(e)});
+      groupes.push_back(
+          {neuf ? FichierDe(e, dossier, source) : "", Illustration(e, "illustration")});
     };
     Lit(dossier + "/" + fichier, {rubrique});
     return groupes;
@@ -119,37 +176,43 @@ class Lecture {
     return fichier;
   }
 
-  [[nodiscard]] std::string Illustration(const Entree& e) const {
+  [[nodiscard]] std::string Illustration(const Entree& e, const char* cle) const {
     constexpr Mesure mesure{0, nomFichier.plus, formes::brut};
-    std::string illustration = e.Texte("illustration", mesure);
+    std::string illustration = e.Texte(cle, mesure);
     if (!illustration.empty() &&
         (!EstNomNu(illustration) || !std::filesystem::is_regular_file(images_ / illustration))) {
-      e.Refuse("illustration", "[" + VersUtf8(illustration) + "] n'existe pas");
+      e.Refuse(cle, "[" + VersUtf8(illustration) + "] n'existe pas");
     }
     return illustration;
   }
 
-  static std::string TexteRecette(const Entree& e) {
+  /// The word of a table that a value is, as it goes to file.
+  static std::string Mot(const Entree& e, const char* cle, std::span<const std::string_view> mots) {
+    return DepuisUtf8(mots[static_cast<std::size_t>(e.Code(cle, mots))]);
+  }
+
+  std::string TexteRecette(const Entree& e) {
     std::string texte = "Pour " + e.Texte("pour", ligne);
-    const auto duree = [&](const char* cle, std::string_view legende, Mesure mesure) {
-      const std::string valeur = e.Texte(cle, mesure);
+    const auto rubrique = [&](std::string_view legende, const std::string& valeur) {
       if (!valeur.empty()) {
         texte += "\n" + std::string(legende) + " : " + valeur;
       }
     };
-    duree("preparation", "Préparation"_1252, ligne);
-    duree("cuisson", "Cuisson", ligneLibre);
-    duree("repos", "Repos", ligneLibre);
+    rubrique("Préparation"_1252, e.Texte("preparation", ligne));
+    rubrique("Cuisson", e.Texte("cuisson", ligneLibre));
+    rubrique("Repos", e.Texte("repos", ligneLibre));
+    rubrique("Saison", Mot(e, "saison", saisons));
+    rubrique("Région"_1252, Mot(e, "region", grandesRegions));
     texte += "\n\n" + std::string("Ingrédients"_1252);
-    for (const std::string& ingredient : e.Textes("ingredients", 2, ligne)) {
-      texte += "\n- " + ingredient;
+    for (const std::string& deLaListe : e.Textes("ingredients", 2, ingredient)) {
+      texte += "\n- " + deLaListe;
     }
     const std::vector<std::string> etapes = e.Textes("etapes", 3, ligne);
     texte += "\n\n" + std::string("Étapes"_1252);
     for (std::size_t i = 0; i < etapes.size(); ++i) {
       texte += "\n" + std::to_string(i + 1) + ". " + etapes[i];
     }
-    texte = Compose(texte + "\n\nConseil : " + e.Texte("conseil", conseil));
+    texte = Compose(texte + "\n\n" + std::string(legendeConseil) + e.Texte("conseil", conseil));
     if (texte.size() > std::size_t{limiteTexte}) {
       e.Refuse(std::to_string(texte.size()) + " caractères en tout, au plus " +
                std::to_string(std::size_t{limiteTexte}) + " permis");
@@ -166,9 +229,9 @@ class Lecture {
                 {"recette", "titre", clesRecette, [&](const Entree& e) {
                    Recette recette{
                        e.Texte("titre", nomLong), Numero<std::int32_t>(i), TexteRecette(e), {}};
-                   if (!familles[i].illustration.empty()) {
-                     recette.image = "/" + familles[i].illustration;
-                   }
+                   const std::string sienne = Illustration(e, "image");
+                   const std::string& image = sienne.empty() ? familles[i].illustration : sienne;
+                   recette.image = image.empty() ? "" : "/" + image;
                    titres.Exige(e, "titre", recette.titre);
                    textes_.Exige(e, "etapes", recette.texte);
                    lus_.recettes.push_back(std::move(recette));
@@ -189,7 +252,7 @@ class Lecture {
     for (std::size_t i = 0; i < regions.size(); ++i) {
       LitGroupe(regions[i], {"vin", "nom", clesVin, [&](const Entree& e) {
                                lus_.vins.push_back({e.Texte("nom", nomCourt),
-                                                    Numero<std::int32_t>(i), Texte(e, note)});
+                                                    Numero<std::int32_t>(i), Texte(e, noteDeVin)});
                                noms.Exige(e, "nom", lus_.vins.back().nom);
                              }});
     }
@@ -206,17 +269,18 @@ class Lecture {
     Uniques noms;
     Lit("fromages.toml",
         {{"fromage", "nom", clesFromage, [&](const Entree& e) {
-            lus_.fromages.push_back({e.Texte("nom", nomLong), e.Texte("region", nomCourt),
-                                     e.Code("lait", laits), e.Code("de", mois), e.Code("a", mois),
-                                     Texte(e, note)});
+            lus_.fromages.push_back(
+                {e.Texte("nom", nomLong), Mot(e, "region", std::span(grandesRegions).subspan(1)),
+                 e.Code("lait", laits), e.Code("de", mois), e.Code("a", mois), Texte(e, portrait)});
             noms.Exige(e, "nom", lus_.fromages.back().nom);
           }}});
   }
 
-  void Fiches(const std::string& fichier, const char* cle, std::vector<Fiche>& fiches) {
+  void Fiches(const std::string& fichier, const char* cle, Mesure mesure,
+              std::vector<Fiche>& fiches) {
     Uniques titres;
     Lit(fichier, {{cle, "titre", clesFiche, [&](const Entree& e) {
-                     fiches.push_back({e.Texte("titre", nomLong), Texte(e, fiche)});
+                     fiches.push_back({e.Texte("titre", nomLong), Texte(e, mesure)});
                      titres.Exige(e, "titre", fiches.back().titre);
                    }}});
   }
@@ -308,6 +372,27 @@ class Lecture {
         journal_.Refuse({presente}, "fichier", "rien ne le nomme, il n'est pas lu");
       }
     }
+  }
+
+  /// A catalogue whose every text says something, a colon, then why, reads like one machine's.
+  void ExigeVariete() {
+    const auto exige = [&](const char* source, const auto& entrees, std::string_view apres) {
+      const auto nombre = entrees.size();
+      const auto expliques = static_cast<std::size_t>(
+          std::count_if(entrees.begin(), entrees.end(), [&](const auto& entree) {
+            const std::string_view texte = entree.texte;
+            return ExpliqueApresDeuxPoints(texte.substr(texte.find(apres) + apres.size()));
+          }));
+      if (2 * expliques > nombre) {
+        journal_.Refuse({source}, "deux-points",
+                        std::to_string(expliques) + " textes sur " + std::to_string(nombre) +
+                            " s'expliquent après un deux-points, au plus la moitié permise");
+      }
+    };
+    exige("recettes", lus_.recettes, legendeConseil);
+    exige("vins", lus_.vins, "");
+    exige("fromages.toml", lus_.fromages, "");
+    exige("trucs.toml", lus_.trucs, "");
   }
 
   std::filesystem::path dossier_;

@@ -5,6 +5,7 @@
 #include <sstream>
 
 #include "data/Texte1252.h"
+#include "usine/Usages.h"
 
 namespace gastrelle::usine {
 namespace {
@@ -99,6 +100,8 @@ std::string Entree::Examine(const char* cle, const toml::node& valeur, Mesure me
   }
   if (const auto faute = FauteTypographique(texte, mesure.forme)) {
     RefuseFaute(cle, valeur, texte, *faute);
+  } else if (const auto ecart = FauteUsage(texte, mesure.forme.usages)) {
+    RefuseFaute(cle, valeur, texte, *ecart);
   }
   return texte;
 }

@@ -4,6 +4,7 @@
 #include <array>
 
 #include "data/Texte1252.h"
+#include "usine/Place.h"
 
 namespace gastrelle::usine {
 namespace {
@@ -14,40 +15,6 @@ constexpr char fermant = '\xBB';
 
 bool AppelleInsecableAvant(char c) {
   return c == ';' || c == ':' || c == '!' || c == '?' || c == fermant;
-}
-
-/// A text and a place in it, with what stands around. Beyond its ends there are line breaks.
-struct Place {
-  std::string_view texte;
-  std::size_t i;
-
-  [[nodiscard]] char a(std::size_t decalage) const {
-    return i + decalage < texte.size() ? texte[i + decalage] : '\n';
-  }
-  [[nodiscard]] char c() const { return texte[i]; }
-  [[nodiscard]] char avant() const { return i > 0 ? texte[i - 1] : '\n'; }
-  [[nodiscard]] char apres() const { return a(1); }
-  [[nodiscard]] bool Commence(std::string_view debut) const {
-    return texte.substr(i).starts_with(debut);
-  }
-};
-
-bool Parmi(char c, std::string_view caracteres) {
-  return caracteres.find(c) != std::string_view::npos;
-}
-
-bool EstBlanc(char c) {
-  return c == ' ' || c == '\n';
-}
-
-bool EstChiffre(char c) {
-  return c >= '0' && c <= '9';
-}
-
-bool EstLettre(char c) {
-  const char capitale = capitale1252[static_cast<unsigned char>(c)];
-  return (capitale >= 'A' && capitale <= 'Z') || Parmi(capitale, "\x8C\x9F") ||
-         (static_cast<unsigned char>(capitale) >= 0xC0 && !Parmi(capitale, "\xD7\xF7"));
 }
 
 /// What a person can't see, and what has another spelling in the sources.

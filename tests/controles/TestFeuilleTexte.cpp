@@ -300,7 +300,7 @@ TEST(TextesDUsine, RestentALOctetPresSurUneFeuille) {
       ++lus;
     }
   }
-  EXPECT_EQ(lus, 224U + 15U + 167U + 122U);
+  EXPECT_EQ(lus, 365U + 15U + 167U + 122U);
 }
 
 }  // namespace

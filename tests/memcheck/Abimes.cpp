@@ -1,10 +1,13 @@
 #include "memcheck/Abimes.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <filesystem>
 #include <limits>
+#include <map>
 #include <string>
+#include <vector>
 
 #include "data/Limites.h"
 #include "memcheck/Hasard.h"
@@ -25,8 +28,9 @@ constexpr Valeurs fauxDrapeaux{{1, 2, 32'767, -32'768}, {9, 9, 9, 9}, {5, 5, 5, 
 constexpr Valeurs horsDuFichier{{vivant, vivant, vivant, vivant},
                                 {-1, 0, 1 << 20, Bornes::max()},
                                 {0, 30'001, 1 << 20, Bornes::max()}};
-// Each of them ends the program when it is read. All stay alive: a list that finds fewer records
-// than the factory protects puts that count into the header, and the next start refuses the file.
+// Each of them ends the program when it is read; `Negatives` spares what its start reads. All stay
+// alive: a list that finds fewer records than the factory protects puts that count into the header,
+// and the next start refuses the file.
 constexpr Valeurs negatives{{vivant, vivant, vivant, vivant},
                             {1, 9, 16, 1000},
                             {-1, Bornes::min(), -30'000, -Bornes::max()}};
@@ -58,11 +62,31 @@ void ChaqueFicheDeFenetre(const DossierEssai& dossier, Change&& change) {
   ChaqueFiche<RecFiche>(dossier, Donnees::GLT1, change);
 }
 
-/// One record in `combien` gets values that don't belong there.
+/// The recipes of the family that the windows' sorted list begins with.
+std::vector<std::string> PremieresMontrees(const DossierEssai& dossier) {
+  std::map<std::string, std::int32_t> familles;
+  std::int32_t numero = 1;
+  ChaqueFiche<RecFamille>(dossier, Donnees::GLR1, [&](RecFamille& famille) {
+    familles.emplace(NomOuSignature(famille).brut(), ++numero);
+  });
+  std::vector<std::string> montrees;
+  ChaqueFiche<RecRecette>(dossier, Donnees::GLR2, [&](RecRecette& recette) {
+    if (recette.idFamille == familles.begin()->second) {
+      montrees.emplace_back(NomOuSignature(recette).brut());
+    }
+  });
+  return montrees;
+}
+
+/// One record in `combien` gets values that don't belong there, unless its name is spared.
 template <const Valeurs& valeurs, std::size_t combien>
-void PoseValeurs(const DossierEssai& dossier) {
+void PoseValeursHors(const DossierEssai& dossier, const std::vector<std::string>& epargnes) {
   Hasard hasard;
   ChaqueFicheDeFenetre(dossier, [&](auto& fiche) {
+    const std::string nom(NomOuSignature(fiche).brut());
+    if (std::find(epargnes.begin(), epargnes.end(), nom) != epargnes.end()) {
+      return;
+    }
     if (hasard.UneFoisSur(combien)) {
       fiche.actif = Un(valeurs.drapeaux, hasard);
       fiche.posTexte = Un(valeurs.positions, hasard);
@@ -75,6 +99,15 @@ void PoseValeurs(const DossierEssai& dossier) {
       }
     }
   });
+}
+
+template <const Valeurs& valeurs, std::size_t combien>
+void PoseValeurs(const DossierEssai& dossier) {
+  PoseValeursHors<valeurs, combien>(dossier, {});
+}
+
+void PoseNegatives(const DossierEssai& dossier) {
+  PoseValeursHors<negatives, 10>(dossier, PremieresMontrees(dossier));
 }
 
 std::string OctetsAuHasard(Hasard& hasard, std::size_t nombre) {
@@ -147,7 +180,7 @@ constexpr std::array abimes{
     Abime{"AucunDegat", nullptr},
     Abime{"Drapeaux", PoseValeurs<fauxDrapeaux, 3>},
     Abime{"HorsDuFichier", PoseValeurs<horsDuFichier, 2>},
-    Abime{"Negatives", PoseValeurs<negatives, 10>},
+    Abime{"Negatives", PoseNegatives},
     Abime{"Octets", PoseOctets},
     Abime{"Codes", PoseCodes},
     Abime{"FichiersCoupes", CoupeTout},

@@ -147,7 +147,7 @@ class Jugement {
 /// Calls `f` with every text of a source that a reader will see.
 void PourChaqueTexte(const toml::node& noeud, const std::string& lieu,
                      const std::function<void(const std::string&, const std::string&)>& f) {
-  constexpr std::array<std::string_view, 6> muettes{"fichier", "illustration", "email",
+  constexpr std::array<std::string_view, 7> muettes{"fichier", "illustration", "image", "email",
                                                     "siteWeb", "telephone",    "fax"};
   if (const auto* texte = noeud.as_string()) {
     f(lieu, texte->get());

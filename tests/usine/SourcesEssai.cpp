@@ -15,7 +15,7 @@ std::string Cle(const char* cle, const std::string& valeur) {
 }
 
 std::string EnRecette(const std::string& titre) {
-  return "[[recette]]\n" + Cle("titre", titre) + Cle("pour", "4 personnes") +
+  return "[[recette]]\n" + Cle("titre", titre) + Cle("saison", "été") + Cle("pour", "4 personnes") +
          Cle("preparation", "20 min") + Cle("cuisson", "1 h") +
          "ingredients = [\n\"1 oignon\",\n\"Sel\",\n]\n" +
          "etapes = [\n\"Éplucher.\",\n\"Cuire le tout : " + titre + ".\",\n\"Servir.\",\n]\n" +
@@ -146,6 +146,10 @@ void SourcesEssai::Ajoute(const std::string& fichier, std::string_view suite) {
 
 void SourcesEssai::Supprime(const std::string& fichier) const {
   dossier_.Supprime("sources/" + fichier);
+}
+
+void SourcesEssai::AjouteImage(const std::string& image) const {
+  dossier_.Ecrit("images/" + image, "image");
 }
 
 void SourcesEssai::SupprimeImage(const std::string& image) const {

@@ -33,6 +33,7 @@ class SourcesEssai {
   void Remplace(const std::string& fichier, std::string_view ancien, std::string_view nouveau);
   void Ajoute(const std::string& fichier, std::string_view suite);
   void Supprime(const std::string& fichier) const;
+  void AjouteImage(const std::string& image) const;
   void SupprimeImage(const std::string& image) const;
 
   /// The catalogues, and what was refused in `journal`.

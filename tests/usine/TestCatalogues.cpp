@@ -49,6 +49,7 @@ TEST(Catalogues, ComposentLeTexteDUneRecette) {
             "Pour 4 personnes\r\n"
             "Préparation\u00A0: 20 min\r\n"
             "Cuisson\u00A0: 1 h\r\n"
+            "Saison\u00A0: été\r\n"
             "\r\n"
             "Ingrédients\r\n"
             "- 1 oignon\r\n"
@@ -66,7 +67,28 @@ TEST(Catalogues, LaissentUneRecetteSansCuissonEtAvecRepos) {
   SourcesEssai sources;
   sources.Remplace("recettes/potages.toml", "cuisson = \"1 h\"", "repos = \"une nuit\"");
   const std::string texte = VersUtf8(sources.Compile().recettes.front().texte);
-  EXPECT_THAT(texte, HasSubstr("20 min\r\nRepos\u00A0: une nuit\r\n\r\nIngrédients"));
+  EXPECT_THAT(texte, HasSubstr("20 min\r\nRepos\u00A0: une nuit\r\nSaison\u00A0: été\r\n\r\n"));
+  EXPECT_THAT(sources.journal.refus(), IsEmpty());
+}
+
+TEST(Catalogues, DisentLaRegionDUneRecetteQuiEnAUne) {
+  SourcesEssai sources;
+  sources.Remplace("recettes/potages.toml", "saison = \"été\"",
+                   "saison = \"de l'automne au printemps\"\nregion = \"Île-de-France\"");
+  EXPECT_THAT(VersUtf8(sources.Compile().recettes.front().texte),
+              HasSubstr("Saison\u00A0: de l'automne au printemps\r\n"
+                        "Région\u00A0: Île-de-France\r\n\r\nIngrédients"));
+  EXPECT_THAT(sources.journal.refus(), IsEmpty());
+}
+
+TEST(Catalogues, PreferentLImageDUneRecetteACelleDeSaFamille) {
+  SourcesEssai sources;
+  sources.AjouteImage("bisque.png");
+  sources.Remplace("recettes/potages.toml", "titre = \"Bisque\"",
+                   "titre = \"Bisque\"\nimage = \"bisque.png\"");
+  EXPECT_THAT(sources.Compile().recettes,
+              ElementsAre(Field(&Recette::image, "/potages.png"),
+                          Field(&Recette::image, "/bisque.png"), Field(&Recette::image, "")));
   EXPECT_THAT(sources.journal.refus(), IsEmpty());
 }
 

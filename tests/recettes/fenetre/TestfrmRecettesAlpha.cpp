@@ -152,7 +152,7 @@ INSTANTIATE_TEST_SUITE_P(Mots, AlphaDeFabrique,
                                          Mot{"gateau", "Gâteau au yaourt"},
                                          Mot{"crepes", "Crêpes de froment"},
                                          Mot{"ile", "Îles flottantes"},
-                                         Mot{"huile", "Harengs et pommes à l'huile"}),
+                                         Mot{"huile", "Pompe à l'huile d'olive"}),
                          testing::PrintToStringParamName());
 
 TEST_P(AlphaDeFabrique, UneRecetteSeTrouveSansAccentNiLigature) {
