@@ -2,20 +2,13 @@
 // a menu, heats and servings told twice. What doesn't agree is told in words.
 #pragma once
 
-#include <map>
-#include <set>
 #include <string>
-#include <string_view>
 #include <vector>
 
-namespace gastrelle::usine {
+#include "usine/Appellations.h"
+#include "usine/Notice.h"
 
-/// An entry of a compiled catalogue, in UTF-8, with plain blanks and "\n" between its lines.
-struct Notice {
-  std::string nom;
-  std::string texte;
-  std::string groupe = {};  ///< the family of a recipe
-};
+namespace gastrelle::usine {
 
 struct Ouvrages {
   std::vector<Notice> recettes;
@@ -27,27 +20,6 @@ struct Ouvrages {
 
 /// One line for each disagreement: "Réveillon de Noël : pommard à 17 °C, sa fiche dit 16 °C".
 using Desaccords = std::vector<std::string>;
-
-/// The names by which texts call a wine, and the entry that each stands for. Hyphens, apostrophes
-/// and case don't count.
-class Appellations {
- public:
-  /// `connues` are lines "name" or "name = entry"; the names of the entries are known by
-  /// themselves.
-  Appellations(const std::vector<std::string>& connues, const std::vector<Notice>& vins);
-
-  struct Citation {
-    std::string nom;
-    const Notice* fiche;  ///< none: the wine has no entry
-    bool connue;          ///< a line names it, so that it is missed if its entry goes
-  };
-  /// The wines named in a text, the longest name at each place.
-  [[nodiscard]] std::vector<Citation> Dans(std::string_view texte) const;
-
- private:
-  std::map<std::string, const Notice*> fiches_;
-  std::set<std::string> connues_;
-};
 
 /// Wines named in a menu, a cheese or a recipe that have no entry.
 Desaccords VinsSansFiche(const Ouvrages& ouvrages, const Appellations& appellations);
