@@ -18,8 +18,8 @@ LectureEnAvance::LectureEnAvance(Reserve& reserve)
       // NOLINTNEXTLINE(modernize-avoid-c-arrays): untouched, it costs nothing
       avance_(std::make_unique_for_overwrite<char[]>(enAvance)) {}
 
-std::optional<std::string_view> LectureEnAvance::Suivant(std::int32_t position,
-                                                         std::int32_t longueur) {
+std::optional<std::string_view> LectureEnAvance::Rend(std::int32_t position,
+                                                      std::int32_t longueur) {
   if (position == suite_ && longueur <= plusLong && !EstLu(position, longueur)) {
     LitDepuis(position);
   }

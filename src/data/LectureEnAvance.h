@@ -19,8 +19,7 @@ class LectureEnAvance {
   /// The text at `position` (from 1), `longueur` bytes of it, if it lies right behind the one asked
   /// for before and is short enough to gain by company; it stays until the next call. Otherwise
   /// nothing, and whoever asks reads it by itself. Throws nothing.
-  [[nodiscard]] std::optional<std::string_view> Suivant(std::int32_t position,
-                                                        std::int32_t longueur);
+  [[nodiscard]] std::optional<std::string_view> Rend(std::int32_t position, std::int32_t longueur);
 
  private:
   [[nodiscard]] bool EstLu(std::int64_t position, std::int64_t longueur) const {

@@ -73,7 +73,7 @@ bool Recherche::EstDansTexte(std::int32_t position, std::int32_t longueur) {
   if (position == 0) {
     return false;
   }
-  if (const auto lu = avance_.Suivant(position, longueur)) {
+  if (const auto lu = avance_.Rend(position, longueur)) {
     return cherche_.EstDans(*lu);
   }
   for (std::int64_t fait = 0;;) {
