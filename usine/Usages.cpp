@@ -109,8 +109,9 @@ bool EstChaleurJointePar(const Place& p, std::string_view lien) {
 }
 
 struct Graphie {
-  std::string_view ecartee;  ///< as a word begins, in capitals
+  std::string_view ecartee;  ///< as words begin, in capitals
   const char* raison;
+  bool entiere = false;  ///< the last word ends there
 };
 
 constexpr std::array<Graphie, 12> graphies{{
@@ -124,8 +125,8 @@ constexpr std::array<Graphie, 12> graphies{{
     {"CONCENTR\xC9 DE TOMATES", "« concentré de tomate » attendu"},
     {"STEAK FRITES", "« steak-frites » attendu"},
     {"VINAIGRE DE XERES", "« vinaigre de xérès » attendu"},
-    {"TRIS ", "« tries » attendu"},
-    {"TRIS,", "« tries » attendu"},
+    {"TRIS", "« tries » attendu", true},
+    {"GRANIT", "« granite » attendu", true},
 }};
 
 const Graphie* GraphieEcartee(const Place& p) {
@@ -134,8 +135,9 @@ const Graphie* GraphieEcartee(const Place& p) {
   }
   constexpr std::size_t laPlusLongue = 24;
   const std::string debut = Majuscules(p.suite().substr(0, laPlusLongue));
-  const auto place = std::find_if(graphies.begin(), graphies.end(),
-                                  [&](const Graphie& g) { return debut.starts_with(g.ecartee); });
+  const auto place = std::find_if(graphies.begin(), graphies.end(), [&](const Graphie& g) {
+    return debut.starts_with(g.ecartee) && (!g.entiere || !EstLettre(p.a(g.ecartee.size())));
+  });
   return place == graphies.end() ? nullptr : &*place;
 }
 
