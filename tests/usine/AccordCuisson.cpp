@@ -6,7 +6,6 @@
 #include "usine/Accord.h"
 
 namespace gastrelle::usine {
-
 namespace {
 
 /// What speaks of the oven without baking in it.

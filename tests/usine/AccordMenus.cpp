@@ -7,7 +7,6 @@
 #include "usine/Accord.h"
 
 namespace gastrelle::usine {
-
 namespace {
 
 /// The dishes of a line of a menu, without its name and its drinks.

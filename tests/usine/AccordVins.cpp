@@ -4,7 +4,6 @@
 #include "usine/Accord.h"
 
 namespace gastrelle::usine {
-
 namespace {
 
 /// Goes through the wines named in the menus, the cheeses and the recipes.

@@ -31,8 +31,7 @@ Ouvrages Accordes() {
        "Pour 4 personnes\n\nÉtapes\n1. Poêler.\n2. Servir."},
       {"Rôti de porc",
        "Pour 6 personnes\n\nÉtapes\n1. Préchauffer le four à 180 °C (th. 6).\n2. Enfourner 1 h : "
-       "la "
-       "sonde marque 63 °C.\n3. Servir.\n\nConseil : Un crozes-hermitage.",
+       "la sonde marque 63 °C.\n3. Servir.\n\nConseil : Un crozes-hermitage.",
        "Porc"},
       {"Tarte fine", "Pour 8 personnes\n\nÉtapes\n1. Allumer le gril.\n2. Passer sous le gril."}};
   for (const char* famille : {"Bœuf", "Veau", "Agneau", "Volailles et lapin"}) {
