@@ -12,6 +12,11 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_L
   # GCC 12 sees overlapping copies in any `"literal" + std::string` that it inlines.
   target_compile_options(gastrelle_options INTERFACE -Wno-restrict)
 endif()
+if(WIN32)
+  # GCC counts on the registers that its own copy of an inline function leaves alone; here the linker
+  # may take another unit's copy, which doesn't.
+  target_compile_options(gastrelle_options INTERFACE -fno-ipa-ra)
+endif()
 target_include_directories(gastrelle_options INTERFACE "${CMAKE_SOURCE_DIR}/src")
 if(GASTRELLE_ASSAINIR)
   set(assainir -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)

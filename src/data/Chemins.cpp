@@ -60,7 +60,8 @@ std::string_view Chemins::Relatif(std::string_view chemin) const {
     return {};
   }
   // Separators that stand double count once, as they do for the system.
-  const std::size_t debut = chemin.find_first_not_of(separateur(), cheminAppli_.size());
+  const std::string_view separateurs = convention_ == Convention::windows ? "\\/" : "/";
+  const std::size_t debut = chemin.find_first_not_of(separateurs, cheminAppli_.size());
   return debut == std::string_view::npos ? std::string_view{} : chemin.substr(debut);
 }
 

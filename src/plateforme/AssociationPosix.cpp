@@ -1,8 +1,7 @@
-#include <algorithm>
 #include <gio/gio.h>
 #include <memory>
-#include <string_view>
 
+#include "plateforme/AdresseOuverte.h"
 #include "plateforme/Association.h"
 #include "plateforme/BibliothequePosix.h"
 
@@ -19,37 +18,6 @@ struct Gio {
   decltype(&g_app_info_launch_default_for_uri) ouvre = nullptr;
   decltype(&g_io_error_quark) erreurs = nullptr;
 };
-
-/// True if the text begins with a scheme: a letter, at least one more letter, digit, "+", "-" or
-/// ".", and ":".
-bool AUnSchema(std::string_view texte) {
-  constexpr std::size_t plusCourt = 2;
-  const std::string_view schema = texte.substr(0, texte.find(':'));
-  return schema.size() >= plusCourt && schema.size() < texte.size() &&
-         g_ascii_isalpha(schema.front()) && std::all_of(schema.begin(), schema.end(), [](char c) {
-           return g_ascii_isalnum(c) || c == '+' || c == '-' || c == '.';
-         });
-}
-
-/// An address whose program gets it as one argument, however the line that starts that program is
-/// written: quotes around its place don't help if the address closes them.
-std::string EnUnArgument(std::string_view adresse) {
-  constexpr std::string_view interdits = " \"'\\`<>^{|}";
-  constexpr std::string_view chiffres = "0123456789ABCDEF";
-  constexpr unsigned base = 16;
-  std::string ecrite;
-  for (const char c : adresse) {
-    if (g_ascii_iscntrl(c) || interdits.find(c) != std::string_view::npos) {
-      const auto octet = static_cast<unsigned char>(c);
-      ecrite += '%';
-      ecrite += chiffres[octet / base];
-      ecrite += chiffres[octet % base];
-    } else {
-      ecrite += c;
-    }
-  }
-  return ecrite;
-}
 
 struct LibereTexte {
   void operator()(char* texte) const { g_free(texte); }

@@ -1,7 +1,8 @@
 #include "plateforme/ErreurExecution.h"
 
 #include <array>
-#include <cerrno>
+
+#include "plateforme/CodesSysteme.h"
 
 namespace gastrelle {
 namespace {
@@ -25,25 +26,6 @@ constexpr std::array<TextePanne, 11> textes{{
     {Panne::cheminIntrouvable, "Chemin d'acc\xE8s introuvable"},
 }};
 
-struct CodeSysteme {
-  int code;
-  Panne panne;
-};
-
-constexpr std::array<CodeSysteme, 11> codes{{
-    {ENOENT, Panne::fichierIntrouvable},
-    {EIO, Panne::entreeSortie},
-    {ENOMEM, Panne::memoireInsuffisante},
-    {ENOSPC, Panne::disquePlein},
-    {EDQUOT, Panne::disquePlein},
-    {EFBIG, Panne::disquePlein},
-    {EACCES, Panne::permissionRefusee},
-    {EPERM, Panne::permissionRefusee},
-    {EROFS, Panne::permissionRefusee},
-    {ENOTDIR, Panne::cheminIntrouvable},
-    {EINVAL, Panne::appelIncorrect},
-}};
-
 }  // namespace
 
 const char* ErreurExecution::what() const noexcept {
@@ -59,9 +41,9 @@ std::string ErreurExecution::Rapport() const {
   return "Erreur d'ex\xE9\x63ution '" + std::to_string(numero()) + "' : " + what();
 }
 
-Panne PanneDuSysteme(int codeErrno) noexcept {
-  for (const CodeSysteme& ligne : codes) {
-    if (ligne.code == codeErrno) {
+Panne PanneDuSysteme(int code) noexcept {
+  for (const CodeSysteme& ligne : CodesDuSysteme()) {
+    if (ligne.code == code) {
       return ligne.panne;
     }
   }

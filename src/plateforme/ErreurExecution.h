@@ -38,7 +38,7 @@ class ErreurExecution : public std::exception {
   Panne panne_;
 };
 
-/// The failure that stands for an `errno` of the operating system.
+/// The failure that stands for an error number of the system: `errno`, on Windows `GetLastError()`.
 Panne PanneDuSysteme(int codeErrno) noexcept;
 
 /// Runs a step. False if it failed, wherever it stopped.

@@ -88,7 +88,8 @@ TEST_F(LectureDeBlocs, LisentDesZerosAuDelaDeLaFin) {
 
 TEST_F(LectureDeBlocs, RefusentUnNumeroSousUn) {
   Pose(3);
-  for (const std::int64_t numero : {0L, -1L, -504L, -2'147'483'648L}) {
+  for (const std::int64_t numero :
+       std::initializer_list<std::int64_t>{0, -1, -504, -2'147'483'648}) {
     EXPECT_EQ(PanneDe([&] { Lu(numero); }), Panne::numeroEnregistrement) << numero;
   }
   EXPECT_THAT(disque.journal(), IsEmpty());

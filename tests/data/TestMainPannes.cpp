@@ -156,6 +156,7 @@ TEST(PannesDuDemarrage, DurablesDisentLeFichierEnTroisLignes) {
 TEST(PannesDuDemarrage, DUneRechercheRestaureLeFichierQuElleNAPasTrouve) {
   const auto b = Prepare(false);
   b->AjouteFamille("Sauces");
+  b->module = std::make_unique<Module1>(b->module->services, b->module->chemins);
   b->disque.EchoueALAppel(1, Panne::entreeSortie);
   EXPECT_TRUE(Essaie(*b).cadre);
   EXPECT_EQ(b->dossier.Lit("GLR1.DAT"), b->dossier.Lit("GLR1.stp"));

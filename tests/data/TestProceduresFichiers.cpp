@@ -7,6 +7,7 @@
 #include "data/ProceduresFichiers.h"
 #include "doublures/Depart.h"
 #include "doublures/Pannes.h"
+#include "plateforme/TexteChemin.h"
 
 namespace gastrelle::essai {
 namespace {
@@ -133,8 +134,8 @@ TEST_F(Procedures, ImageExisteChercheDansLeDossierOuAilleurs) {
   b.dossier.Ecrit("IMAGE/soupe.jpg", "");
   EXPECT_TRUE(ImageExiste(module, module.chemins.De("IMAGE/soupe.jpg")));
   EXPECT_FALSE(ImageExiste(module, module.chemins.De("IMAGE/tarte.jpg")));
-  EXPECT_TRUE(ImageExiste(module, DepuisUtf8((autre.chemin() / "tarte.jpg").string())));
-  EXPECT_FALSE(ImageExiste(module, DepuisUtf8((autre.chemin() / "soupe.jpg").string())));
+  EXPECT_TRUE(ImageExiste(module, DepuisUtf8(EnUtf8(autre.chemin() / "tarte.jpg"))));
+  EXPECT_FALSE(ImageExiste(module, DepuisUtf8(EnUtf8(autre.chemin() / "soupe.jpg"))));
 }
 
 TEST_F(Procedures, ImageExisteDitNonQuandLaRechercheEchoue) {
@@ -155,7 +156,7 @@ TEST_F(Procedures, ImageExisteNeChercheAucunCheminPlusLongQueCeuxDesSystemes) {
 class CheminsDuDossier : public testing::TestWithParam<const char*> {
  protected:
   [[nodiscard]] std::string Vrai(const char* nom) const {
-    return (b.dossier.chemin() / nom).string();
+    return EnUtf8((b.dossier.chemin() / CheminDe(nom)).make_preferred());
   }
 
   Bibliotheque b{GetParam()};
@@ -170,14 +171,14 @@ TEST_P(CheminsDuDossier, VontAuSystemeParLeVraiDossier) {
 
 TEST_P(CheminsDuDossier, EnReviennentDansLesTermesDuProgramme) {
   EXPECT_EQ(CheminProgramme(module, Vrai("IMAGE/crème.jpg")),
-            module.chemins.De("IMAGE/cr\xE8me.jpg"));
-  EXPECT_EQ(CheminProgramme(module, Vrai("IMAGE/寿司.jpg")), module.chemins.De("IMAGE/??.jpg"));
+            module.chemins.Developpe("/cr\xE8me.jpg"));
+  EXPECT_EQ(CheminProgramme(module, Vrai("IMAGE/寿司.jpg")), module.chemins.Developpe("/??.jpg"));
 }
 
 TEST_P(CheminsDuDossier, AilleursRestentCeQuIlsSont) {
   EXPECT_EQ(CheminSysteme(module, "/ailleurs/cr\xE8me.jpg"), "/ailleurs/crème.jpg");
   EXPECT_EQ(CheminProgramme(module, "/ailleurs/crème.jpg"), "/ailleurs/cr\xE8me.jpg");
-  const std::string voisin = b.dossier.chemin().string() + "2/a.jpg";
+  const std::string voisin = EnUtf8(b.dossier.chemin()) + "2/a.jpg";
   EXPECT_EQ(CheminProgramme(module, voisin), DepuisUtf8(voisin));
 }
 

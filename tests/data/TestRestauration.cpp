@@ -18,6 +18,7 @@ class Restauration : public testing::Test {
   Restauration() {
     b.AjouteRecette(2, "Tarte", "Une tarte.");
     b.Demarre();
+    FermeFichiersRecettes(module);
   }
 
   Bibliotheque b;
@@ -47,6 +48,7 @@ TEST_F(Restauration, VerifieLesPremiersOctetsDUneReserve) {
   EXPECT_THAT(b.disque.journal(),
               ElementsAre("copie GLR3.stp GLR3.DAT", "ouvre GLR3.DAT", "lit GLR3.DAT 0+8"));
   b.dossier.Ecrit("GLR3.stp", "GLR4.DAT");
+  FermeFichiersRecettes(module);
   EXPECT_EQ(PanneDe([&] { RestaureDeFabrique(module, Donnees::GLR3); }), Panne::fichierIntrouvable);
 }
 

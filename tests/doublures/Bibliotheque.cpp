@@ -1,14 +1,14 @@
 #include "doublures/Bibliotheque.h"
 
-#include <cstdlib>
 #include <fstream>
 #include <iterator>
-#include <unistd.h>
+#include <random>
 
 #include <gtest/gtest.h>
 
 #include "data/Main.h"
 #include "data/Texte1252.h"
+#include "plateforme/TexteChemin.h"
 
 namespace gastrelle::essai {
 namespace {
@@ -100,8 +100,11 @@ int ATourDeRole(Donnees autre, int numero) {
 }  // namespace
 
 DossierEssai::DossierEssai(const std::string& nom) {
-  std::string modele = (std::filesystem::temp_directory_path() / (nom + "-XXXXXX")).string();
-  chemin_ = ::mkdtemp(modele.data());
+  static std::random_device hasard;
+  do {
+    chemin_ =
+        std::filesystem::temp_directory_path() / CheminDe(nom + "-" + std::to_string(hasard()));
+  } while (!std::filesystem::create_directory(chemin_));
 }
 
 DossierEssai::~DossierEssai() {
@@ -110,21 +113,30 @@ DossierEssai::~DossierEssai() {
 }
 
 std::string DossierEssai::Lit(std::string_view nom) const {
-  std::ifstream entree(chemin_ / nom, std::ios::binary);
+  std::ifstream entree(chemin_ / CheminDe(nom), std::ios::binary);
   return {std::istreambuf_iterator<char>(entree), {}};
 }
 
 void DossierEssai::Ecrit(std::string_view nom, std::string_view octets) const {
-  std::ofstream(chemin_ / nom, std::ios::binary)
+  std::ofstream(chemin_ / CheminDe(nom), std::ios::binary)
       .write(octets.data(), static_cast<std::streamsize>(octets.size()));
 }
 
 bool DossierEssai::A(std::string_view nom) const {
-  return std::filesystem::exists(chemin_ / nom);
+  return std::filesystem::exists(chemin_ / CheminDe(nom));
 }
 
 void DossierEssai::Supprime(std::string_view nom) const {
-  std::filesystem::remove_all(chemin_ / nom);
+  const std::filesystem::path place = chemin_ / CheminDe(nom);
+#ifdef _WIN32
+  // A file that the program holds open would keep its name until it is closed.
+  const DossierEssai corbeille("corbeille");
+  if (std::filesystem::exists(place)) {
+    std::filesystem::rename(place, corbeille.chemin() / "x");
+  }
+#else
+  std::filesystem::remove_all(place);
+#endif
 }
 
 Bibliotheque::Bibliotheque(const std::string& nomDossier)
@@ -311,7 +323,7 @@ void Bibliotheque::Garnit() {
 std::unique_ptr<Module1> Bibliotheque::NouveauModule() {
   return std::make_unique<Module1>(
       Services{disque, messages, pointeur, horloge, association, son, processus, imprimantes},
-      Chemins(conventionDuSysteme, DepuisUtf8(dossier.chemin().string())));
+      Chemins(conventionDuSysteme, DepuisUtf8(EnUtf8(dossier.chemin()))));
 }
 
 void Bibliotheque::Demarre() {

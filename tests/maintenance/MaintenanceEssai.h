@@ -112,7 +112,7 @@ inline std::vector<std::pair<std::string, std::string>> Contenu(
     if (std::filesystem::is_regular_file(entree.symlink_status())) {
       lecture.open(entree.path(), std::ios::binary);
     }
-    contenu.emplace_back(entree.path().lexically_relative(chemin).string(),
+    contenu.emplace_back(entree.path().lexically_relative(chemin).generic_string(),
                          std::string{std::istreambuf_iterator<char>(lecture), {}});
   }
   std::sort(contenu.begin(), contenu.end());

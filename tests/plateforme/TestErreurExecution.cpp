@@ -1,6 +1,5 @@
-// The failures: their numbers, what the user reads, what stands for an error of the system.
+// The failures: their numbers and what the user reads.
 
-#include <cerrno>
 #include <string_view>
 
 #include <gtest/gtest.h>
@@ -45,26 +44,6 @@ TEST(ErreurExecution, SeRapporteAvecSonNumeroPuisSonTexte) {
             "Erreur d'exécution '53' : Fichier introuvable"_1252);
   EXPECT_EQ(ErreurExecution(Panne::depassement).Rapport(),
             "Erreur d'exécution '6' : Dépassement de capacité"_1252);
-}
-
-TEST(ErreurExecution, TraduitLesErreursDuSysteme) {
-  EXPECT_EQ(PanneDuSysteme(ENOENT), Panne::fichierIntrouvable);
-  EXPECT_EQ(PanneDuSysteme(EIO), Panne::entreeSortie);
-  EXPECT_EQ(PanneDuSysteme(ENOMEM), Panne::memoireInsuffisante);
-  EXPECT_EQ(PanneDuSysteme(ENOTDIR), Panne::cheminIntrouvable);
-  EXPECT_EQ(PanneDuSysteme(EINVAL), Panne::appelIncorrect);
-  for (const int plein : {ENOSPC, EDQUOT, EFBIG}) {
-    EXPECT_EQ(PanneDuSysteme(plein), Panne::disquePlein) << plein;
-  }
-  for (const int refus : {EACCES, EPERM, EROFS}) {
-    EXPECT_EQ(PanneDuSysteme(refus), Panne::permissionRefusee) << refus;
-  }
-}
-
-TEST(ErreurExecution, PrendTouteAutreErreurDuSystemePourUnAccesManque) {
-  for (const int autre : {EISDIR, EEXIST, ENOTEMPTY, EMFILE, ENAMETOOLONG, 0, -1}) {
-    EXPECT_EQ(PanneDuSysteme(autre), Panne::accesFichier) << autre;
-  }
 }
 
 }  // namespace

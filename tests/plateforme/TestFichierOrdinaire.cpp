@@ -1,45 +1,37 @@
-// Opening what may be anything, and the program's own folder.
+// Opening a file for who reads it by means of his own, and the program's own folder.
 
 #include <filesystem>
+#include <string>
 #include <unistd.h>
 
 #include <gtest/gtest.h>
 
 #include "doublures/Bibliotheque.h"
-#include "doublures/Entrees.h"
 #include "plateforme/DossierProgramme.h"
 #include "plateforme/FichierOrdinaire.h"
+#include "plateforme/TexteChemin.h"
 
 namespace gastrelle::essai {
 namespace {
 
-namespace fs = std::filesystem;
-
-TEST(FichierOrdinaire, SOuvreAussiAuBoutDUnLien) {
+TEST(FichierOrdinaire, SeLitParSonNumero) {
   const DossierEssai dossier;
-  dossier.Ecrit("X", "contenu");
-  fs::create_symlink("X", dossier.chemin() / "lien");
-  for (const char* nom : {"X", "lien"}) {
-    const int numero = OuvreFichierOrdinaire(dossier.chemin() / nom);
-    char octets[7] = {};
-    ASSERT_EQ(::read(numero, octets, sizeof octets), 7) << nom;
-    EXPECT_EQ(std::string(octets, 7), "contenu") << nom;
-    ::close(numero);
-  }
+  dossier.Ecrit("crème", "con\r\n\x1atenu");
+  const int numero = OuvreFichierOrdinaire(dossier.chemin() / CheminDe("crème"));
+  std::string octets(20, '#');
+  const auto lus = ::read(numero, octets.data(), 20);
+  ::close(numero);
+  EXPECT_EQ(octets.substr(0, static_cast<std::size_t>(lus)), "con\r\n\x1atenu");
 }
 
-TEST(FichierOrdinaire, RienDAutreNeSOuvreEtRienNEstAttendu) {
+TEST(FichierOrdinaire, NEstNiUnDossierNiRien) {
   const DossierEssai dossier;
-  for (const Entree& entree : EntreesSpeciales()) {
-    entree.pose(dossier.chemin() / entree.nom);
-    EXPECT_EQ(OuvreFichierOrdinaire(dossier.chemin() / entree.nom), -1) << entree.nom;
-  }
   EXPECT_EQ(OuvreFichierOrdinaire(dossier.chemin()), -1);
   EXPECT_EQ(OuvreFichierOrdinaire(dossier.chemin() / "absent"), -1);
 }
 
 TEST(DossierProgramme, EstCeluiDuProgrammeQuiTourne) {
-  EXPECT_TRUE(fs::exists(DossierDuProgramme() / "essais_coeur"));
+  EXPECT_TRUE(std::filesystem::exists(DossierDuProgramme() / PROGRAMME_DU_COEUR));
 }
 
 }  // namespace

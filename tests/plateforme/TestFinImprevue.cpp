@@ -1,11 +1,9 @@
 // An end that nobody in the program has decided. Each test runs in a process of its own making.
 
 #include <cstdlib>
-#include <unistd.h>
 
 #include <gtest/gtest.h>
 
-#include "doublures/Enfant.h"
 #include "plateforme/FinImprevue.h"
 #include "plateforme/Processus.h"
 
@@ -15,59 +13,58 @@ namespace {
 constexpr int faite = 7;
 
 void Finit() {
-  ::_exit(faite);
+  ProcessusSysteme().Termine(faite);
 }
 
-TEST(FinImprevue, FaitDAbordCeQuElleDoit) {
-  EXPECT_EQ(Enfant([] {
-              const FinImprevue fin(Finit);
-              std::exit(1);
-              return 0;
-            }),
-            faite);
+[[noreturn]] void FinitPendantQuElleTient() {
+  const FinImprevue fin(Finit);
+  std::exit(1);
 }
 
-TEST(FinImprevue, NeFaitRienUneFoisPartie) {
-  EXPECT_EQ(Enfant([] {
-              { const FinImprevue fin(Finit); }
-              std::exit(1);
-              return 0;
-            }),
-            1);
+[[noreturn]] void FinitApresElle() {
+  { const FinImprevue fin(Finit); }
+  std::exit(1);
 }
 
-TEST(FinImprevue, ReprendQuandUneAutreLaSuit) {
-  EXPECT_EQ(Enfant([] {
-              {
-                const FinImprevue premiere([] {});
-              }
-              const FinImprevue fin(Finit);
-              std::exit(1);
-              return 0;
-            }),
-            faite);
+[[noreturn]] void FinitPendantLaSuivante() {
+  {
+    const FinImprevue premiere([] {});
+  }
+  FinitPendantQuElleTient();
 }
 
-TEST(FinImprevue, NeSeRappellePasElleMeme) {
-  EXPECT_EQ(Enfant([] {
-              static int fois = 0;
-              const FinImprevue fin([] {
-                ++fois;
-                std::exit(fois);
-              });
-              std::exit(3);
-              return 0;
-            }),
-            1);
+[[noreturn]] void FinitDansElleMeme() {
+  static int fois = 0;
+  const FinImprevue fin([] {
+    ++fois;
+    std::exit(fois);
+  });
+  std::exit(3);
 }
 
-TEST(FinImprevue, NeComptePasCelleQueLeProgrammeDecide) {
-  EXPECT_EQ(Enfant([] {
-              const FinImprevue fin(Finit);
-              ProcessusSysteme().Termine(0);
-              return 1;
-            }),
-            0);
+[[noreturn]] void TerminePendantQuElleTient() {
+  const FinImprevue fin(Finit);
+  ProcessusSysteme().Termine(0);
+}
+
+TEST(FinImprevueDeathTest, FaitDAbordCeQuElleDoit) {
+  EXPECT_EXIT(FinitPendantQuElleTient(), testing::ExitedWithCode(faite), "");
+}
+
+TEST(FinImprevueDeathTest, NeFaitRienUneFoisPartie) {
+  EXPECT_EXIT(FinitApresElle(), testing::ExitedWithCode(1), "");
+}
+
+TEST(FinImprevueDeathTest, ReprendQuandUneAutreLaSuit) {
+  EXPECT_EXIT(FinitPendantLaSuivante(), testing::ExitedWithCode(faite), "");
+}
+
+TEST(FinImprevueDeathTest, NeSeRappellePasElleMeme) {
+  EXPECT_EXIT(FinitDansElleMeme(), testing::ExitedWithCode(1), "");
+}
+
+TEST(FinImprevueDeathTest, NeComptePasCelleQueLeProgrammeDecide) {
+  EXPECT_EXIT(TerminePendantQuElleTient(), testing::ExitedWithCode(0), "");
 }
 
 }  // namespace

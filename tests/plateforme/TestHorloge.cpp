@@ -1,10 +1,10 @@
 // Day numbers, and today.
 
-#include <cstdlib>
 #include <ctime>
 
 #include <gtest/gtest.h>
 
+#include "doublures/Environnement.h"
 #include "plateforme/Horloge.h"
 
 namespace gastrelle::essai {
@@ -41,11 +41,7 @@ class HorlogeReglee : public testing::Test {
   ~HorlogeReglee() override { Fuseau(nullptr); }
 
   static void Fuseau(const char* fuseau) {
-    if (fuseau == nullptr) {
-      ::unsetenv("TZ");
-    } else {
-      ::setenv("TZ", fuseau, 1);
-    }
+    PoseVariable("TZ", fuseau);
     ::tzset();
   }
 

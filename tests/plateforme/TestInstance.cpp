@@ -1,10 +1,5 @@
 // One running program for each folder.
 
-#include <fcntl.h>
-#include <sys/file.h>
-#include <sys/wait.h>
-#include <unistd.h>
-
 #include <gtest/gtest.h>
 
 #include "doublures/Bibliotheque.h"
@@ -45,18 +40,6 @@ TEST(Instance, NeLaisseAucunFichier) {
   EXPECT_TRUE(std::filesystem::is_empty(dossier.chemin()));
 }
 
-TEST(Instance, FinitAvecLeProcessusMemeTueNet) {
-  const DossierEssai dossier;
-  const pid_t enfant = ::fork();
-  if (enfant == 0) {
-    ::_exit(Instance::Prend(dossier.chemin()).release() == nullptr ? 1 : 0);
-  }
-  int statut = -1;
-  ::waitpid(enfant, &statut, 0);
-  EXPECT_EQ(statut, 0);
-  EXPECT_NE(Instance::Prend(dossier.chemin()), nullptr);
-}
-
 TEST(Instance, RefuseUnDossierDontPersonneNePeutSavoirQuiLOccupe) {
   const DossierEssai dossier;
   EXPECT_EQ(Instance::Prend(dossier.chemin() / "absent"), nullptr);
@@ -67,16 +50,6 @@ TEST(Instance, NeGardeRienDUnRefus) {
   auto premier = Instance::Prend(dossier.chemin());
   EXPECT_EQ(Instance::Prend(dossier.chemin()), nullptr);
   premier.reset();
-  EXPECT_NE(Instance::Prend(dossier.chemin()), nullptr);
-}
-
-/// The folder's own lock, as another program would hold it.
-TEST(Instance, RespecteLeVerrouDUnAutreSurLeDossier) {
-  const DossierEssai dossier;
-  const int numero = ::open(dossier.chemin().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-  ASSERT_EQ(::flock(numero, LOCK_EX | LOCK_NB), 0);
-  EXPECT_EQ(Instance::Prend(dossier.chemin()), nullptr);
-  ::close(numero);
   EXPECT_NE(Instance::Prend(dossier.chemin()), nullptr);
 }
 

@@ -4,9 +4,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "doublures/Entrees.h"
 #include "doublures/Pannes.h"
-#include "listes/Notes.h"
+#include "listes/coeur/CoeurNotes.h"
 
 namespace gastrelle::essai {
 namespace {
@@ -15,24 +14,6 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 namespace fs = std::filesystem;
-
-class Notes : public testing::Test {
- protected:
-  void SetUp() override { b.Demarre(); }
-
-  /// What is read of a file that holds these bytes.
-  std::string Lues(std::string_view octets) {
-    b.dossier.Ecrit("MesNotes.txt", octets);
-    return LitNotes(*b.module);
-  }
-  /// The file once a text was written.
-  std::string Ecrites(std::string_view texte) {
-    EcritNotes(*b.module, texte);
-    return b.dossier.Lit("MesNotes.txt");
-  }
-
-  Bibliotheque b;
-};
 
 TEST_F(Notes, SontVidesSansFichierEtNEnFontPas) {
   EXPECT_EQ(LitNotes(*b.module), "");
@@ -86,7 +67,7 @@ TEST_F(Notes, SeLisentPlusLonguesQueLaBoiteNEnPrend) {
 
 TEST_F(Notes, SontRefuseesQuandEllesRempliraientLaMemoire) {
   Lues("x");
-  fs::resize_file(b.dossier.chemin() / "MesNotes.txt", std::int64_t{1} << 40U);
+  b.disque.Ouvre("MesNotes.txt")->Ecrit(std::int64_t{1} << 40U, "x");
   b.disque.OublieJournal();
   EXPECT_EQ(PanneDe([&] { static_cast<void>(LitNotes(*b.module)); }), Panne::memoireInsuffisante);
   EXPECT_EQ(b.disque.journal().back(), "longueur MesNotes.txt");
@@ -173,42 +154,12 @@ TEST_F(Notes, RemplacentUnFichierEnLectureSeule) {
   EXPECT_EQ(Ecrites("Neuf"), "Neuf\r\n");
 }
 
-TEST_F(Notes, SontRefuseesDeCeQuiNEstPasUnFichierSansAttendrePersonne) {
-  for (const Entree& entree : EntreesSpeciales()) {
-    const fs::path chemin = b.dossier.chemin() / "MesNotes.txt";
-    entree.pose(chemin);
-    EXPECT_EQ(PanneDe([&] { static_cast<void>(LitNotes(*b.module)); }), Panne::accesFichier)
-        << entree.nom;
-    EXPECT_EQ(Ecrites("Neuf"), "Neuf\r\n") << entree.nom;
-    fs::remove(chemin);
-  }
-}
-
 TEST_F(Notes, LaissentUnDossierDeLeurNomCommeIlEst) {
   fs::create_directory(b.dossier.chemin() / "MesNotes.txt");
   b.dossier.Ecrit("MesNotes.txt/dedans", "x");
   EXPECT_EQ(LitNotes(*b.module), "");
   EcritNotes(*b.module, "Neuf");
   EXPECT_EQ(b.dossier.Lit("MesNotes.txt/dedans"), "x");
-}
-
-TEST_F(Notes, SeLisentAuBoutDUnLienEtSEcriventASaPlace) {
-  const DossierEssai ailleurs;
-  ailleurs.Ecrit("notes", "Ailleurs\r\n");
-  const fs::path chemin = b.dossier.chemin() / "MesNotes.txt";
-  fs::create_symlink(ailleurs.chemin() / "notes", chemin);
-  EXPECT_EQ(LitNotes(*b.module), "Ailleurs");
-  EXPECT_EQ(Ecrites("Ici"), "Ici\r\n");
-  EXPECT_FALSE(fs::is_symlink(chemin));
-  EXPECT_EQ(ailleurs.Lit("notes"), "Ailleurs\r\n");
-}
-
-TEST_F(Notes, NeSuiventPasUnLienQuiNeMeneNullePart) {
-  const DossierEssai ailleurs;
-  fs::create_symlink(ailleurs.chemin() / "absent", b.dossier.chemin() / "MesNotes.txt");
-  EXPECT_EQ(LitNotes(*b.module), "");
-  EXPECT_EQ(Ecrites("Ici"), "Ici\r\n");
-  EXPECT_FALSE(ailleurs.A("absent"));
 }
 
 }  // namespace

@@ -3,10 +3,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "doublures/Entrees.h"
 #include "doublures/Pannes.h"
-#include "maintenance/MaintenanceEssai.h"
-#include "maintenance/Nettoyage.h"
+#include "maintenance/coeur/ObstaclesAuNettoyage.h"
 
 namespace gastrelle::essai {
 namespace {
@@ -16,39 +14,6 @@ using testing::Contains;
 using testing::ElementsAre;
 using testing::Not;
 using testing::StartsWith;
-
-class ObstaclesAuNettoyage : public testing::Test {
- protected:
-  void SetUp() override {
-    GarnitDePertes(b);
-    b.Demarre();
-    avant = LesQuatre(b.dossier);
-    recettes = RecettesVivantes(b.dossier);
-  }
-  [[nodiscard]] fs::path Place(const char* nom) const { return b.dossier.chemin() / nom; }
-
-  void AttendNettoye() {
-    EXPECT_EQ(NettoieRecettes(*b.module), 3);
-    EXPECT_EQ(RecettesVivantes(b.dossier), recettes);
-    EXPECT_FALSE(fs::exists(fs::symlink_status(Place("TEMP"))));
-  }
-  /// It fails, the four files are what they were.
-  void AttendIntact() {
-    EXPECT_THROW(NettoieRecettes(*b.module), ErreurExecution);
-    EXPECT_EQ(LesQuatre(b.dossier), avant);
-  }
-  /// It fails before anything is changed.
-  void AttendRienTouche() {
-    const auto contenu = Contenu(b.dossier.chemin());
-    AttendIntact();
-    EXPECT_EQ(Contenu(b.dossier.chemin()), contenu);
-  }
-
-  Bibliotheque b;
-  DossierEssai ailleurs;
-  std::array<std::string, 4> avant;
-  std::vector<RecetteEntiere> recettes;
-};
 
 TEST_F(ObstaclesAuNettoyage, UnDossierDeCopiesVideEstOteEtRefait) {
   fs::create_directory(Place("TEMP"));
@@ -75,21 +40,6 @@ TEST_F(ObstaclesAuNettoyage, UnFichierDuNomDuDossierArreteAussi) {
   AttendRienTouche();
 }
 
-TEST_F(ObstaclesAuNettoyage, UnDossierDeCopiesQuiEstUnLienArreteSansRienToucherDehors) {
-  ailleurs.Ecrit("GLR1.DAT", "à un autre");
-  ailleurs.Ecrit("lettre", "à un autre");
-  fs::create_directory_symlink(ailleurs.chemin(), Place("TEMP"));
-  const auto dehors = Contenu(ailleurs.chemin());
-  AttendRienTouche();
-  EXPECT_EQ(Contenu(ailleurs.chemin()), dehors);
-}
-
-TEST_F(ObstaclesAuNettoyage, UnDossierDeCopiesQuiEstUnLienVersRienArreteAussi) {
-  fs::create_symlink(ailleurs.chemin() / "absent", Place("TEMP"));
-  AttendRienTouche();
-  EXPECT_FALSE(ailleurs.A("absent"));
-}
-
 TEST_F(ObstaclesAuNettoyage, UnePanneDeLaRechercheDuDossierVautDossierAbsent) {
   b.disque.EchoueSur("dossier? TEMP", Panne::entreeSortie);
   AttendNettoye();
@@ -110,28 +60,6 @@ TEST_F(ObstaclesAuNettoyage, DesFichiersProvisoiresOubliesSontSupprimesAvantDEtr
   EXPECT_LT(b.dossier.Lit("GLR3.DAT").size(), 100U);
 }
 
-TEST_F(ObstaclesAuNettoyage, UnFichierProvisoireQuiEstUnLienEstDelieSansSuivreLeLien) {
-  ailleurs.Ecrit("lettre", "à un autre");
-  for (const char* nom : {"GLR1.tmp", "GLR2.tmp", "GLR3.tmp", "GLR4.tmp"}) {
-    fs::create_symlink(ailleurs.chemin() / "lettre", Place(nom));
-  }
-  AttendNettoye();
-  EXPECT_EQ(ailleurs.Lit("lettre"), "à un autre");
-  for (const std::string& nom : nomsRecettes) {
-    EXPECT_TRUE(fs::is_regular_file(fs::symlink_status(Place(nom.c_str())))) << nom;
-  }
-}
-
-TEST_F(ObstaclesAuNettoyage, UnTubeOuUnPeripheriqueProvisoireEstDelie) {
-  for (const Entree& entree : EntreesSpeciales()) {
-    entree.pose(Place("GLR4.tmp"));
-    AttendNettoye();
-  }
-}
-
-class ProvisoireImpossible : public ObstaclesAuNettoyage,
-                             public testing::WithParamInterface<const char*> {};
-
 TEST_P(ProvisoireImpossible, UnDossierDeSonNomArreteAvantQueRienNeSoitEfface) {
   fs::create_directory(Place(GetParam()));
   AttendIntact();
@@ -139,24 +67,8 @@ TEST_P(ProvisoireImpossible, UnDossierDeSonNomArreteAvantQueRienNeSoitEfface) {
   EXPECT_THAT(b.disque.changements(), Not(Contains("supprime GLR1.DAT")));
 }
 
-TEST_P(ProvisoireImpossible, UnLienVersRienEstDelieEtNeFaitRienDehors) {
-  fs::create_symlink(ailleurs.chemin() / "absent", Place(GetParam()));
-  AttendNettoye();
-  EXPECT_FALSE(ailleurs.A("absent"));
-}
-
 INSTANTIATE_TEST_SUITE_P(PourChacun, ProvisoireImpossible,
                          testing::Values("GLR1.tmp", "GLR2.tmp", "GLR3.tmp", "GLR4.tmp"));
-
-TEST_F(ObstaclesAuNettoyage, UnFichierGardeAilleursParUnLienYResteTelQuel) {
-  const std::string textes = b.dossier.Lit("GLR3.DAT");
-  ailleurs.Ecrit("GLR3.DAT", textes);
-  fs::remove(Place("GLR3.DAT"));
-  fs::create_symlink(ailleurs.chemin() / "GLR3.DAT", Place("GLR3.DAT"));
-  AttendNettoye();
-  EXPECT_EQ(ailleurs.Lit("GLR3.DAT"), textes);
-  EXPECT_FALSE(fs::is_symlink(Place("GLR3.DAT")));
-}
 
 TEST_F(ObstaclesAuNettoyage, CeQuiVientDansLeDossierDesCopiesPendantCeTempsEnSortAussi) {
   b.disque.pendant = [&](const std::string& ligne) {

@@ -162,7 +162,7 @@ TEST_F(Lecture, DeveloppeLaFormeCourteDUneImagePresente) {
   b.dossier.Ecrit("IMAGE/soupe.png", "x");
   const RecetteLue lue = LitRecette(*b.module, numero);
   EXPECT_TRUE(lue.associee);
-  EXPECT_EQ(lue.image, b.module->chemins.De("IMAGE/soupe.png"));
+  EXPECT_EQ(lue.image, b.module->chemins.Developpe("/soupe.png"));
   EXPECT_THAT(b.disque.changements(), ElementsAre());
 }
 
@@ -181,7 +181,7 @@ TEST_F(Lecture, DelieUneImageDisparueDansLaFicheEtLaisseLeCheminDansLaReserve) {
   const std::string reserve = b.dossier.Lit("GLR4.DAT");
   const RecetteLue lue = LitRecette(*b.module, numero);
   EXPECT_EQ(lue.image, "");
-  EXPECT_EQ(lue.imagePerdue, b.module->chemins.De("IMAGE/partie.png"));
+  EXPECT_EQ(lue.imagePerdue, b.module->chemins.Developpe("/partie.png"));
   const auto fiche = Enregistrement<RecRecette>(b.dossier, "GLR2.DAT", 3);
   EXPECT_EQ(fiche.posImage, 0);
   EXPECT_EQ(fiche.lgImage, 0);

@@ -73,9 +73,10 @@ TEST_P(TextesCherches, UnTexteUnPeuPlusCourtQueCeQuOnChercheNeLArretePas) {
 }
 
 TEST_P(TextesCherches, CeQuOnChercheEstAussiLongQuOnVeut) {
-  for (const std::size_t longueur : {32767UL, piece - 1, piece, piece + 1, piece + 2, 3 * piece}) {
+  for (const std::size_t longueur : std::initializer_list<std::size_t>{
+           32767, piece - 1, piece, piece + 1, piece + 2, 3 * piece}) {
     const std::string quoi = std::string(longueur - 1, 'q') + "r";
-    for (const std::size_t devant : {0UL, 1UL, piece, 2 * longueur}) {
+    for (const std::size_t devant : std::initializer_list<std::size_t>{0, 1, piece, 2 * longueur}) {
       Pose({{"Soupe", std::string(devant, 'x') + quoi}});
       EXPECT_TRUE(Premiere(quoi)) << longueur << ' ' << devant;
       EXPECT_FALSE(Premiere("x" + std::string(devant, 'x') + quoi)) << longueur << ' ' << devant;

@@ -6,66 +6,15 @@
 #include <gtest/gtest.h>
 
 #include "data/Texte1252.h"
-#include "doublures/Entrees.h"
 #include "sortie/Documents.h"
 #include "sortie/DocumentsEssai.h"
+#include "sortie/coeur/DocumentEnPanne.h"
 
 namespace gastrelle::essai {
 namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
-
-constexpr const char* ancien = "l'ancien document";
-
-class DocumentEnPanne : public testing::TestWithParam<DocumentEssai> {
- protected:
-  /// A folder with its data files and the document that was sent before.
-  class Essai : public Bibliotheque {
-   public:
-    explicit Essai(const DocumentEssai& document, const Commande& commande)
-        : nom(document.radical + Suffixe(commande.extension)),
-          document_(document),
-          commande_(commande) {
-      horloge.date = jourDesModeles;
-      dossier.Ecrit(nom, ancien);
-      avant_ = ContenuSans(dossier, nom);
-    }
-    void Envoie() { EnvoieDocument(*module, document_.vue, commande_.extension); }
-    /// Nothing is opened, the user is told once, and no other file has changed.
-    void AttendEchec() {
-      EXPECT_THAT(messages.vus, ElementsAre(MessageVu{DepuisUtf8(commande_.nonCree),
-                                                      Icone::critique, "Gastrelle 2005"}));
-      EXPECT_THAT(association.cibles, IsEmpty());
-      EXPECT_FALSE(pointeur.sablier);
-      AttendLeReste();
-    }
-    void AttendReussite() {
-      EXPECT_EQ(dossier.Lit(nom), Modele(document_.modele));
-      EXPECT_THAT(messages.vus, IsEmpty());
-      EXPECT_EQ(association.cibles.size(), 1U);
-      AttendLeReste();
-    }
-    void AttendLeReste() { EXPECT_EQ(ContenuSans(dossier, nom), avant_); }
-
-    const std::string nom;
-
-   private:
-    const DocumentEssai& document_;
-    const Commande& commande_;
-    std::map<std::string, std::string> avant_;
-  };
-
-  /// Runs on a fresh folder for both extensions.
-  template <class Fait>
-  void PourChaqueCommande(Fait fait) {
-    for (const Commande& commande : commandes) {
-      SCOPED_TRACE(Suffixe(commande.extension));
-      Essai essai(GetParam(), commande);
-      fait(essai);
-    }
-  }
-};
 
 TEST_P(DocumentEnPanne, UneSuppressionManqueeNeChangeRien) {
   PourChaqueCommande([](Essai& essai) {
@@ -142,58 +91,6 @@ TEST_P(DocumentEnPanne, UnDossierDeSonNomReste) {
     EXPECT_EQ(essai.dossier.Lit(essai.nom + "/dedans"), "gardé");
     essai.AttendEchec();
   });
-}
-
-TEST_P(DocumentEnPanne, UnLienDeSonNomLuiCedeLaPlaceEtSaCibleReste) {
-  PourChaqueCommande([](Essai& essai) {
-    const DossierEssai ailleurs;
-    ailleurs.Ecrit("cible", "gardée");
-    std::filesystem::remove(essai.dossier.chemin() / essai.nom);
-    std::filesystem::create_symlink(ailleurs.chemin() / "cible",
-                                    essai.dossier.chemin() / essai.nom);
-    essai.Envoie();
-    EXPECT_FALSE(std::filesystem::is_symlink(essai.dossier.chemin() / essai.nom));
-    EXPECT_EQ(ailleurs.Lit("cible"), "gardée");
-    essai.AttendReussite();
-  });
-}
-
-TEST_P(DocumentEnPanne, UnLienQuiNeMeneARienNeMeneRienAilleurs) {
-  PourChaqueCommande([](Essai& essai) {
-    const DossierEssai ailleurs;
-    std::filesystem::remove(essai.dossier.chemin() / essai.nom);
-    std::filesystem::create_symlink(ailleurs.chemin() / "absente",
-                                    essai.dossier.chemin() / essai.nom);
-    essai.disque.EchoueALAppel(1, Panne::permissionRefusee);
-    essai.Envoie();
-    EXPECT_FALSE(ailleurs.A("absente"));
-    essai.AttendEchec();
-  });
-}
-
-TEST_P(DocumentEnPanne, CeQuiNEstPasUnFichierLuiCedeLaPlace) {
-  for (const Entree& entree : EntreesSpeciales()) {
-    SCOPED_TRACE(entree.nom);
-    Essai essai(GetParam(), commandes[0]);
-    std::filesystem::remove(essai.dossier.chemin() / essai.nom);
-    entree.pose(essai.dossier.chemin() / essai.nom);
-    essai.Envoie();
-    ASSERT_TRUE(  // a pipe would never be read to its end
-        std::filesystem::is_regular_file(symlink_status(essai.dossier.chemin() / essai.nom)));
-    essai.AttendReussite();
-  }
-}
-
-TEST_P(DocumentEnPanne, CeQuiNEstPasUnFichierEtNeCedePasNEstPasAttendu) {
-  for (const Entree& entree : EntreesSpeciales()) {
-    SCOPED_TRACE(entree.nom);
-    Essai essai(GetParam(), commandes[0]);
-    std::filesystem::remove(essai.dossier.chemin() / essai.nom);
-    entree.pose(essai.dossier.chemin() / essai.nom);
-    essai.disque.EchoueALAppel(1, Panne::permissionRefusee);
-    essai.Envoie();
-    essai.AttendEchec();
-  }
 }
 
 INSTANTIATE_TEST_SUITE_P(Onze, DocumentEnPanne, testing::ValuesIn(DocumentsEssai()),

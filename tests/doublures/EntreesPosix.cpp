@@ -1,10 +1,10 @@
-#include "doublures/Entrees.h"
-
 #include <stdexcept>
 #include <sys/socket.h>
 #include <sys/stat.h>
 #include <sys/un.h>
 #include <unistd.h>
+
+#include "doublures/Entrees.h"
 
 namespace gastrelle::essai {
 namespace {

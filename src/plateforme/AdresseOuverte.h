@@ -1,0 +1,17 @@
+// What may be handed to the system to be opened, as a text.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace gastrelle {
+
+/// True if the text begins with a scheme: a letter, at least one more letter, digit, "+", "-" or
+/// ".", and ":".
+bool AUnSchema(std::string_view texte);
+
+/// An address whose program gets it as one argument, however the line that starts that program is
+/// written: quotes around its place don't help if the address closes them.
+std::string EnUnArgument(std::string_view adresse);
+
+}  // namespace gastrelle
