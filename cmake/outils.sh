@@ -6,10 +6,12 @@ paquets_programme=(g++ cmake ninja-build ccache pkg-config git ca-certificates
   libtomlplusplus-dev libglib2.0-dev libcups2-dev libcanberra-dev librsvg2-bin imagemagick
   fonts-liberation fonts-dejavu-core)
 paquets_ecran_virtuel=(xvfb xdotool)
+paquets_paquets=(dpkg-dev librsvg2-bin)
 paquets_bancs=(ripgrep)
 paquets_essais=(libgtest-dev libgmock-dev libbenchmark-dev clang-14 clang-tidy-14 clang-format-14
   libclang-rt-14-dev hunspell hunspell-fr desktop-file-utils shared-mime-info
-  xvfb xdotool libsm-dev valgrind libc6-dbg cups cups-client cups-filters poppler-utils)
+  xvfb xdotool libsm-dev valgrind libc6-dbg cups cups-client cups-filters poppler-utils
+  dpkg-dev lintian appstream)
 
 etape() { printf '\n== %s ==\n' "$*"; }
 

@@ -10,13 +10,15 @@
 
 #include "controles/Boites.h"
 #include "controles/Conversion.h"
+#include "data/Emplacement.h"
 #include "imprimante/AccesImprimanteSysteme.h"
 #include "plateforme/Clavier.h"
 #include "plateforme/Contraintes.h"
 #include "plateforme/DemandeArret.h"
 #include "plateforme/Disque.h"
+#include "plateforme/DonneesUtilisateur.h"
 #include "plateforme/FinImprevue.h"
-#include "plateforme/Instance.h"
+#include "plateforme/TexteChemin.h"
 #include "shell/Application.h"
 #include "shell/EcouteArret.h"
 #include "shell/frmMain.h"
@@ -33,6 +35,11 @@ constexpr int fichiersDUnMessage = 32;
 constexpr const char* tropPeuDeFichiers =
     "Le système ne laisse pas ouvrir assez de fichiers à la fois : Gastrelle ne peut pas démarrer. "
     "Relevez cette limite (« ulimit -n 256 »), puis recommencez.";
+
+/// A folder as the system writes it.
+QString EnTexte(std::filesystem::path dossier) {
+  return QString::fromStdString(EnUtf8(dossier.make_preferred()));
+}
 
 }  // namespace
 }  // namespace gastrelle
@@ -65,17 +72,18 @@ int main(int argc, char** argv) {
   }
   ClavierSysteme clavier;
 
-  const std::filesystem::path dossier = QApplication::applicationDirPath().toStdU16String();
+  const Emplacement lieu =
+      OccupeEmplacement(QApplication::applicationDirPath().toStdU16String(), DonneesUtilisateur());
   std::error_code sansSuite;
-  std::filesystem::current_path(dossier, sansSuite);  // where the programs that it starts begin
-  Disque disque(dossier);
-  const std::unique_ptr<Instance> instance = Instance::Prend(dossier);
+  std::filesystem::current_path(lieu.dossier,
+                                sansSuite);  // where the programs that it starts begin
+  Disque disque(lieu.dossier);
   AccesImprimanteSysteme imprimante(QApplication::applicationDirPath());
   Module1 module({disque, messages, pointeur, horloge, association, son, processus, imprimante},
-                 Chemins(conventionDuSysteme, DepuisQt(QApplication::applicationDirPath())));
+                 Chemins(conventionDuSysteme, DepuisQt(EnTexte(lieu.dossier))));
   try {
     std::unique_ptr<frmMain> cadre;
-    Main(module, instance == nullptr, [&] {
+    Main(module, lieu.dejaEnCours, [&] {
       cadre = std::make_unique<frmMain>(module, clavier);
       cadre->surFin = [] { QApplication::exit(0); };
       ecoute.surArret = [&] { cadre->Arrete(); };
