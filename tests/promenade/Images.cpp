@@ -51,6 +51,7 @@ void PrendImage(const QString& nom) {
     }
   }
   const QDir dossier(qEnvironmentVariable("PROMENADE_IMAGES"));
+  static_cast<void>(dossier.mkpath(QStringLiteral(".")));
   static_cast<void>(image.save(dossier.filePath(nom + QStringLiteral(".png"))));
 }
 

@@ -51,14 +51,15 @@ DossierPromene::DossierPromene(const std::string& nom) : dossier(nom) {
 
 Issue DossierPromene::Promene(int patience) const {
   const QString usager = VersTexte(usager_.chemin());
-  return Execute(VersTexte(dossier.chemin() / "gastrelle"), {},
-                 {"QT_QPA_PLATFORM=offscreen", "QT_PLUGIN_PATH=" GREFFONS_PROMENADE,
-                  "QT_QPA_GENERIC_PLUGINS=promenade", "PROMENADE_JOURNAL=" + usager + "/journal",
-                  "PROMENADE_PATIENCE=" + QString::number(patience), "PROMENADE_IMPRIME=1",
-                  "HOME=" + usager, "XDG_CONFIG_HOME=" + usager, "XDG_DATA_HOME=" + usager,
-                  "XDG_DATA_DIRS=" + usager, "CUPS_SERVER=" + usager + "/aucun",
-                  // The toolkit's own libraries keep memory until the end.
-                  "ASAN_OPTIONS=detect_leaks=0"});
+  return Execute(
+      VersTexte(dossier.chemin() / "gastrelle"), {},
+      {"QT_QPA_PLATFORM=offscreen", QStringLiteral("QT_PLUGIN_PATH=") + GREFFONS_PROMENADE,
+       "QT_QPA_GENERIC_PLUGINS=promenade", "PROMENADE_JOURNAL=" + usager + "/journal",
+       "PROMENADE_PATIENCE=" + QString::number(patience), "PROMENADE_IMPRIME=1", "HOME=" + usager,
+       "XDG_CONFIG_HOME=" + usager, "XDG_DATA_HOME=" + usager, "XDG_DATA_DIRS=" + usager,
+       "CUPS_SERVER=" + usager + "/aucun",
+       // The toolkit's own libraries keep memory until the end.
+       "ASAN_OPTIONS=detect_leaks=0"});
 }
 
 QStringList DossierPromene::Journal() const {
