@@ -2,8 +2,6 @@
 
 #include <array>
 
-#include "plateforme/CodesSysteme.h"
-
 namespace gastrelle {
 namespace {
 
@@ -39,15 +37,6 @@ const char* ErreurExecution::what() const noexcept {
 
 std::string ErreurExecution::Rapport() const {
   return "Erreur d'ex\xE9\x63ution '" + std::to_string(numero()) + "' : " + what();
-}
-
-Panne PanneDuSysteme(int code) noexcept {
-  for (const CodeSysteme& ligne : CodesDuSysteme()) {
-    if (ligne.code == code) {
-      return ligne.panne;
-    }
-  }
-  return Panne::accesFichier;
 }
 
 }  // namespace gastrelle

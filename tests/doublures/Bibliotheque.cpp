@@ -1,5 +1,6 @@
 #include "doublures/Bibliotheque.h"
 
+#include <algorithm>
 #include <fstream>
 #include <iterator>
 #include <random>
@@ -101,10 +102,13 @@ int ATourDeRole(Donnees autre, int numero) {
 
 DossierEssai::DossierEssai(const std::string& nom) {
   static std::random_device hasard;
+  std::uniform_int_distribution<int> lettre('a', 'z');
   do {
-    chemin_ =
-        std::filesystem::temp_directory_path() / CheminDe(nom + "-" + std::to_string(hasard()));
+    std::string suite(8, ' ');
+    std::generate(suite.begin(), suite.end(), [&] { return static_cast<char>(lettre(hasard)); });
+    chemin_ = std::filesystem::temp_directory_path() / CheminDe(nom + "-" + suite);
   } while (!std::filesystem::create_directory(chemin_));
+  std::filesystem::permissions(chemin_, std::filesystem::perms::owner_all);
 }
 
 DossierEssai::~DossierEssai() {
