@@ -12,6 +12,8 @@ paquets_essais=(libgtest-dev libgmock-dev libbenchmark-dev clang-14 clang-tidy-1
   libclang-rt-14-dev hunspell hunspell-fr desktop-file-utils shared-mime-info
   xvfb xdotool libsm-dev valgrind libc6-dbg cups cups-client cups-filters poppler-utils
   dpkg-dev lintian appstream)
+# What cross-compiles for Windows, and runs what comes of it.
+paquets_windows=(g++-mingw-w64-x86-64-posix wine wine64 googletest)
 
 etape() { printf '\n== %s ==\n' "$*"; }
 

@@ -1,8 +1,5 @@
 # Running Windows programs here. Sourced after outils.sh.
 
-# Packages of Debian that cross-compile, and that run what comes of it.
-paquets_windows=(g++-mingw-w64-x86-64-posix wine wine64)
-
 # prepare_wine FOLDER: a Windows of its own in a folder, made once. Its temporary files lie where
 # those of the tests do, and it asks nothing of anybody.
 prepare_wine() {
@@ -12,6 +9,14 @@ prepare_wine() {
     rm -rf "$WINEPREFIX"
     mkdir -p "$WINEPREFIX"
     env -u DISPLAY wineboot --init >/dev/null 2>&1 || manque "Wine n'a pas pu se préparer."
+    # Its own fonts aren't there; the system's stand in for the ones that Windows has.
+    local police
+    for police in "Segoe UI" Tahoma "MS Shell Dlg" "MS Shell Dlg 2" Arial; do
+      wine reg add 'HKCU\Software\Wine\Fonts\Replacements' /v "$police" /d "Liberation Sans" /f >/dev/null 2>&1
+    done
+    # Letters are smoothed there.
+    wine reg add 'HKCU\Control Panel\Desktop' /v FontSmoothing /d 2 /f >/dev/null 2>&1
+    wine reg add 'HKCU\Control Panel\Desktop' /v FontSmoothingType /t REG_DWORD /d 2 /f >/dev/null 2>&1
     wineserver -w
     touch "$WINEPREFIX/pret"
   fi

@@ -1,20 +1,23 @@
+#include <cstdint>
 #include <fcntl.h>
 #include <io.h>
-#include <windows.h>
 
 #include "plateforme/FichierOrdinaire.h"
+#include "plateforme/PoigneeWindows.h"
 
 namespace gastrelle {
 
 int OuvreFichierOrdinaire(const std::filesystem::path& chemin) {
-  const int numero = ::_wopen(chemin.c_str(), _O_RDONLY | _O_BINARY | _O_NOINHERIT);
-  if (numero < 0) {
+  Poignee ouvert(::CreateFileW(chemin.c_str(), GENERIC_READ,
+                               FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                               OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+  if (!ouvert.ouverte() || ::GetFileType(ouvert.poignee()) != FILE_TYPE_DISK) {
     return -1;
   }
-  const auto poignee = reinterpret_cast<HANDLE>(::_get_osfhandle(numero));
-  if (::GetFileType(poignee) != FILE_TYPE_DISK) {
-    ::_close(numero);
-    return -1;
+  const int numero = ::_open_osfhandle(reinterpret_cast<std::intptr_t>(ouvert.poignee()),
+                                       _O_RDONLY | _O_BINARY | _O_NOINHERIT);
+  if (numero >= 0) {
+    ouvert.Lache();  // closing the number closes it
   }
   return numero;
 }

@@ -6,6 +6,7 @@
 #include "data/Texte1252.h"
 #include "doublures/Bibliotheque.h"
 #include "doublures/Entetes.h"
+#include "plateforme/TexteChemin.h"
 #include "recettes/LectureRecettes.h"
 #include "recettes/RecettesEssai.h"
 
@@ -169,10 +170,24 @@ TEST_F(Lecture, DeveloppeLaFormeCourteDUneImagePresente) {
 TEST_F(Lecture, SuitUnCheminEntierHorsDuDossier) {
   const DossierEssai ailleurs;
   ailleurs.Ecrit("photo.jpg", "x");
-  const std::string chemin = (ailleurs.chemin() / "photo.jpg").string();
+  const std::string chemin = EnUtf8(ailleurs.chemin() / "photo.jpg");
   const std::int32_t numero = b.AjouteRecette(2, "Avec", {}, chemin);
   b.Demarre();
   EXPECT_EQ(LitRecette(*b.module, numero).image, chemin);
+}
+
+/// Files that come from another system: what lies in the folder of pictures is found there, what
+/// lay elsewhere is told as lost.
+TEST_F(Lecture, TrouveLImageDuDossierDUnAutreSystemeEtDitPerdueCelleDAilleurs) {
+  const std::int32_t dossier = b.AjouteRecette(2, "Du dossier", {}, "/Crème.PNG"_1252);
+  const std::int32_t lecteur = b.AjouteRecette(2, "D'un lecteur", {}, "C:\\Photos\\x.jpg");
+  const std::int32_t maison = b.AjouteRecette(2, "D'une maison", {}, "/home/anne/x.jpg");
+  b.Demarre();
+  b.dossier.Ecrit("IMAGE/Crème.PNG", "x");
+  EXPECT_EQ(LitRecette(*b.module, dossier).image, b.module->chemins.Developpe("/Crème.PNG"_1252));
+  EXPECT_EQ(LitRecette(*b.module, lecteur).imagePerdue, "C:\\Photos\\x.jpg");
+  EXPECT_EQ(LitRecette(*b.module, maison).imagePerdue,
+            b.module->chemins.Developpe("/home/anne/x.jpg"));
 }
 
 TEST_F(Lecture, DelieUneImageDisparueDansLaFicheEtLaisseLeCheminDansLaReserve) {
