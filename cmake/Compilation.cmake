@@ -16,6 +16,8 @@ if(WIN32)
   # GCC counts on the registers that its own copy of an inline function leaves alone; here the linker
   # may take another unit's copy, which doesn't.
   target_compile_options(gastrelle_options INTERFACE -fno-ipa-ra)
+  # The same sources give the same program: it doesn't bear the time of its making.
+  target_link_options(gastrelle_options INTERFACE -Wl,--no-insert-timestamp)
 endif()
 target_include_directories(gastrelle_options INTERFACE "${CMAKE_SOURCE_DIR}/src")
 if(GASTRELLE_ASSAINIR)

@@ -5,6 +5,7 @@
 #include <QLockFile>
 
 #include "controles/Conversion.h"
+#include "data/Chemins.h"
 #include "data/Messages.h"
 
 namespace gastrelle {
@@ -36,11 +37,17 @@ QString Verrou(const QString& chemin) {
 }
 
 bool Utilisables(const QString& chemin) {
+  if constexpr (conventionDuSysteme == Convention::windows) {
+    return true;  // the settings are no file
+  }
   return SOuvre(QFileInfo(chemin)) && SOuvre(QFileInfo(Verrou(chemin)));
 }
 
 /// Another program may be writing: that takes it a moment.
 bool VerrouLibre(const QString& chemin) {
+  if constexpr (conventionDuSysteme == Convention::windows) {
+    return true;
+  }
   constexpr int unMoment = 100;  // milliseconds
   return !QFileInfo::exists(Verrou(chemin)) || QLockFile(Verrou(chemin)).tryLock(unMoment);
 }

@@ -12,7 +12,9 @@ inline constexpr const char* nomModuleImprimante = "imprimante.dll";
 #else
 inline constexpr const char* nomModuleImprimante = "imprimante.so";
 #endif
-inline constexpr const char* nomEntreeImprimante = "NouvelleImprimante";
+/// The number rises with each change of what the two sides say to each other: a program that is
+/// still running when its module is replaced by another one's has no printer then.
+inline constexpr const char* nomEntreeImprimante = "NouvelleImprimante1";
 
 /// The default printer, which the caller owns, or null.
 using EntreeImprimante = Imprimante* (*)();

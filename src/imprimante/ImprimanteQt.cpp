@@ -129,7 +129,7 @@ void ImprimanteQt::Envoie() {
 
 }  // namespace gastrelle
 
-extern "C" Q_DECL_EXPORT gastrelle::Imprimante* NouvelleImprimante() {
+extern "C" Q_DECL_EXPORT gastrelle::Imprimante* NouvelleImprimante1() {
   if (!gastrelle::ServeurRepond()) {
     return nullptr;
   }

@@ -1,6 +1,7 @@
 #include "plateforme/AdresseOuverte.h"
 
 #include <algorithm>
+#include <optional>
 
 namespace gastrelle {
 namespace {
@@ -11,6 +12,15 @@ bool EstLettre(char c) {
 
 bool EstChiffre(char c) {
   return c >= '0' && c <= '9';
+}
+
+/// The number that a hexadecimal digit stands for; nothing for any other character.
+std::optional<int> Chiffre(char c) {
+  constexpr std::string_view chiffres = "0123456789ABCDEF0123456789abcdef";
+  constexpr int base = 16;
+  const std::size_t place = chiffres.find(c);
+  return place == std::string_view::npos ? std::nullopt
+                                         : std::optional(static_cast<int>(place) % base);
 }
 
 bool EstControle(char c) {
@@ -29,6 +39,26 @@ bool AUnSchema(std::string_view texte) {
          std::all_of(schema.begin(), schema.end(), [](char c) {
            return EstLettre(c) || EstChiffre(c) || c == '+' || c == '-' || c == '.';
          });
+}
+
+std::string CheminDAdresse(std::string_view adresse) {
+  constexpr std::string_view tete = "file://";
+  constexpr int base = 16;
+  if (!adresse.starts_with(tete) || !adresse.substr(tete.size()).starts_with('/')) {
+    return {};
+  }
+  const std::string_view ecrit = adresse.substr(tete.size(), adresse.find('#') - tete.size());
+  std::string chemin;
+  for (std::size_t i = 0; i < ecrit.size(); ++i) {
+    const bool code =
+        ecrit[i] == '%' && i + 2 < ecrit.size() && Chiffre(ecrit[i + 1]) && Chiffre(ecrit[i + 2]);
+    chemin +=
+        code ? static_cast<char>(*Chiffre(ecrit[i + 1]) * base + *Chiffre(ecrit[i + 2])) : ecrit[i];
+    i += code ? 2 : 0;
+  }
+  // A drive stands behind a bar that isn't part of its path.
+  const bool lecteur = chemin.size() > 2 && EstLettre(chemin[1]) && chemin[2] == ':';
+  return lecteur ? chemin.substr(1) : chemin;
 }
 
 std::string EnUnArgument(std::string_view adresse) {

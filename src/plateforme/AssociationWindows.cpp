@@ -1,3 +1,5 @@
+#include <algorithm>
+#include <array>
 #include <filesystem>
 #include <string>
 #include <windows.h>
@@ -17,20 +19,38 @@ bool EstCheminEntier(const std::filesystem::path& cible) {
   return cible.is_absolute() && cible.has_root_name();
 }
 
-/// What would be run instead of being shown: no picture, document or address is one.
+/// What would be run instead of being shown: no picture or document is one. The system's own list
+/// is longer, where it has one.
 bool EstProgramme(const std::filesystem::path& cible) {
-  return ::AssocIsDangerous(cible.extension().c_str()) != FALSE;
+  constexpr std::array programmes{L".bat", L".cmd", L".com", L".exe", L".js",  L".lnk", L".msi",
+                                  L".pif", L".ps1", L".reg", L".scr", L".vbs", L".wsf"};
+  const std::wstring genre = cible.extension().wstring();
+  return std::any_of(programmes.begin(), programmes.end(),
+                     [&](const wchar_t* programme) {
+                       return ::lstrcmpiW(programme, genre.c_str()) == 0;
+                     }) ||
+         ::AssocIsDangerous(genre.c_str()) != FALSE;
+}
+
+/// What is handed to the shell; empty for a text that leads nowhere, or to a program.
+std::filesystem::path Cible(const std::string& texte) {
+  if (texte.find('\0') != std::string::npos) {
+    return {};
+  }
+  if (AUnSchema(texte) && !texte.starts_with("file:")) {
+    return CheminDe(EnUnArgument(texte));
+  }
+  // The shell would read the accents of a file's address in another code.
+  const std::filesystem::path chemin =
+      CheminDe(texte.starts_with("file:") ? CheminDAdresse(texte) : texte).make_preferred();
+  return EstCheminEntier(chemin) && !EstProgramme(chemin) ? chemin : std::filesystem::path();
 }
 
 }  // namespace
 
 Ouverture AssociationSysteme::Ouvre(const std::string& cible) {
-  if (cible.find('\0') != std::string::npos) {
-    return Ouverture::echec;
-  }
-  const bool adresse = AUnSchema(cible);
-  const std::filesystem::path texte = CheminDe(adresse ? EnUnArgument(cible) : cible);
-  if ((!adresse && !EstCheminEntier(texte)) || EstProgramme(texte)) {
+  const std::filesystem::path texte = Cible(cible);
+  if (texte.empty()) {
     return Ouverture::echec;
   }
   // Up to 32 the answer is an error, and this one says that nothing is associated.

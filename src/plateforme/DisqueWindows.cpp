@@ -3,6 +3,7 @@
 #include <string_view>
 #include <vector>
 
+#include "plateforme/CheminWindows.h"
 #include "plateforme/Disque.h"
 #include "plateforme/ErreurExecution.h"
 #include "plateforme/PoigneeWindows.h"
@@ -14,16 +15,6 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr DWORD absent = INVALID_FILE_ATTRIBUTES;
-
-/// A path as the system's calls take it: with its own separators, and of any length.
-std::wstring PourLeSysteme(const fs::path& chemin) {
-  constexpr std::size_t court = 240;  // folders have twelve letters less than files
-  const std::wstring texte = fs::path(chemin).make_preferred().wstring();
-  const bool complet = chemin.is_absolute() && !texte.starts_with(L"\\\\");
-  return texte.size() < court || !complet
-             ? texte
-             : L"\\\\?\\" + chemin.lexically_normal().make_preferred().wstring();
-}
 
 DWORD AttributsDe(const fs::path& chemin) {
   return ::GetFileAttributesW(PourLeSysteme(chemin).c_str());
@@ -77,6 +68,46 @@ DWORD Nature(const fs::path& chemin) {
   return attributs;
 }
 
+/// Does it again for a moment while another program is looking at the file: what scans or indexes
+/// files does so right after they were written.
+template <class Fait>
+BOOL Insiste(Fait fait) {
+  constexpr int fois = 10;
+  constexpr DWORD unMoment = 50;  // milliseconds
+  BOOL reussi = fait();
+  for (int i = 1; i < fois && reussi == 0; ++i) {
+    const DWORD erreur = ::GetLastError();
+    if (erreur != ERROR_SHARING_VIOLATION && erreur != ERROR_ACCESS_DENIED) {
+      break;
+    }
+    ::Sleep(unMoment);
+    reussi = fait();
+  }
+  return reussi;
+}
+
+/// Gives a file another name, also one that another file has.
+BOOL Deplace(const fs::path& chemin, const fs::path& nouveau) {
+  return Insiste([&] {
+    return ::MoveFileExW(PourLeSysteme(chemin).c_str(), PourLeSysteme(nouveau).c_str(),
+                         MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH);
+  });
+}
+
+/// A name beside a file that nobody has: "~" behind it, and a number where somebody has that one.
+/// Empty if all are taken.
+fs::path NomProvisoire(const fs::path& cible) {
+  constexpr int essais = 100;
+  for (int n = 1; n <= essais; ++n) {
+    fs::path nom = cible;
+    nom += n == 1 ? L"~" : L"~" + std::to_wstring(n);
+    if (AttributsDe(nom) == absent) {
+      return nom;
+    }
+  }
+  return {};
+}
+
 /// A file that may only be read keeps nobody from taking its name away who may change its folder.
 void PermetDeLOter(const fs::path& chemin) {
   const DWORD attributs = AttributsDe(chemin);
@@ -92,6 +123,22 @@ BOOL OteLien(const fs::path& chemin) {
     return ::RemoveDirectoryW(PourLeSysteme(chemin).c_str());
   }
   ::SetLastError(ERROR_ACCESS_DENIED);
+  return FALSE;
+}
+
+/// A name that is free at once: a file that another program holds open would keep its own until it
+/// is closed, so it goes under another one.
+BOOL OteFichier(const fs::path& chemin) {
+  const fs::path provisoire = NomProvisoire(chemin);
+  if (provisoire.empty() || Deplace(chemin, provisoire) == 0) {
+    return Insiste([&] { return ::DeleteFileW(PourLeSysteme(chemin).c_str()); });
+  }
+  if (Insiste([&] { return ::DeleteFileW(PourLeSysteme(provisoire).c_str()); }) != 0) {
+    return TRUE;
+  }
+  const DWORD erreur = ::GetLastError();
+  static_cast<void>(Deplace(provisoire, chemin));
+  ::SetLastError(erreur);
   return FALSE;
 }
 
@@ -249,25 +296,17 @@ class Remplacant {
     Pousse(poignee_);
     Ferme();
     PermetDeLOter(cible_);
-    Exige(::MoveFileExW(PourLeSysteme(chemin_).c_str(), PourLeSysteme(cible_).c_str(),
-                        MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH),
-          cible_);
+    Exige(Deplace(chemin_, cible_), cible_);
     chemin_.clear();
   }
 
  private:
-  /// "~" stands behind the name, and a number where somebody has that one.
   Poignee Cree() {
-    constexpr int essais = 100;
-    for (int n = 1; n <= essais; ++n) {
-      chemin_ = cible_;
-      chemin_ += n == 1 ? L"~" : L"~" + std::to_wstring(n);
-      if (AttributsDe(chemin_) == absent) {
-        return Ordinaire(chemin_, Usage::lectureEtEcriture, CREATE_NEW);
-      }
+    chemin_ = NomProvisoire(cible_);
+    if (chemin_.empty()) {
+      throw ErreurExecution(Panne::accesFichier);
     }
-    chemin_.clear();
-    throw ErreurExecution(Panne::accesFichier);
+    return Ordinaire(chemin_, Usage::lectureEtEcriture, CREATE_NEW);
   }
 
   void Ferme() { const Poignee fermee(std::move(poignee_)); }
@@ -334,16 +373,12 @@ void Disque::Copie(const std::string& source, const std::string& cible) {
 void Disque::Supprime(const std::string& nom) {
   const fs::path chemin = Chemin(nom);
   PermetDeLOter(chemin);
-  Exige(EstDossier(AttributsDe(chemin)) ? OteLien(chemin)
-                                        : ::DeleteFileW(PourLeSysteme(chemin).c_str()),
-        chemin);
+  Exige(EstDossier(AttributsDe(chemin)) ? OteLien(chemin) : OteFichier(chemin), chemin);
 }
 
 void Disque::Renomme(const std::string& nom, const std::string& nouveau) {
   const fs::path chemin = Chemin(nom);
-  Exige(::MoveFileExW(PourLeSysteme(chemin).c_str(), PourLeSysteme(Chemin(nouveau)).c_str(),
-                      MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH),
-        chemin);
+  Exige(Deplace(chemin, Chemin(nouveau)), chemin);
 }
 
 void Disque::CreeDossier(const std::string& nom) {

@@ -2,13 +2,14 @@
 #include <fcntl.h>
 #include <io.h>
 
+#include "plateforme/CheminWindows.h"
 #include "plateforme/FichierOrdinaire.h"
 #include "plateforme/PoigneeWindows.h"
 
 namespace gastrelle {
 
 int OuvreFichierOrdinaire(const std::filesystem::path& chemin) {
-  Poignee ouvert(::CreateFileW(chemin.c_str(), GENERIC_READ,
+  Poignee ouvert(::CreateFileW(PourLeSysteme(chemin).c_str(), GENERIC_READ,
                                FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
                                OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
   if (!ouvert.ouverte() || ::GetFileType(ouvert.poignee()) != FILE_TYPE_DISK) {

@@ -1,5 +1,6 @@
 #include <string>
 
+#include "plateforme/CheminWindows.h"
 #include "plateforme/Instance.h"
 #include "plateforme/PoigneeWindows.h"
 
@@ -10,7 +11,7 @@ namespace {
 /// It holds for all users of the machine.
 std::wstring NomDe(const std::filesystem::path& dossier) {
   constexpr DWORD sansOuvrir = 0;
-  const Poignee ouvert(::CreateFileW(dossier.c_str(), sansOuvrir,
+  const Poignee ouvert(::CreateFileW(PourLeSysteme(dossier).c_str(), sansOuvrir,
                                      FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
                                      nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr));
   BY_HANDLE_FILE_INFORMATION identite{};

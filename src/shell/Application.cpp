@@ -9,6 +9,7 @@
 #include "controles/Conversion.h"
 #include "controles/Icones.h"
 #include "controles/StyleGastrelle.h"
+#include "data/Chemins.h"
 #include "plateforme/DossierProgramme.h"
 
 namespace gastrelle {
@@ -25,6 +26,9 @@ namespace {
 /// The toolkit would look for plug-ins in the program's own folder as well, and run what it finds
 /// there. It forgets a folder before it starts only if it knew of it.
 int& SansGreffonsDuDossier(int& argc) {
+  if constexpr (conventionDuSysteme == Convention::windows) {
+    return argc;  // there the system itself looks for libraries in that folder first
+  }
   constexpr const char* variable = "QT_PLUGIN_PATH";
   const QByteArray avant = qgetenv(variable);
   const QString dossier = QString::fromStdU16String(DossierDuProgramme().u16string());

@@ -73,6 +73,28 @@ TEST_F(DisqueReel, OteEtRemplaceUnFichierQuOnNePeutQueLire) {
   EXPECT_EQ(dossier.Lit("remplace"), "neuf");
 }
 
+/// As whoever scans files for viruses, or indexes them, may still hold it.
+TEST_F(DisqueReel, LibereAussitotLeNomDUnFichierQuUnAutreTient) {
+  dossier.Ecrit("MesNotes.txt", "vieilles");
+  const auto autre = disque.OuvrePourLire("MesNotes.txt");
+  disque.Supprime("MesNotes.txt");
+  EXPECT_FALSE(disque.Existe("MesNotes.txt"));
+  disque.Cree("MesNotes.txt")->Ecrit(0, "neuves");
+  EXPECT_EQ(dossier.Lit("MesNotes.txt"), "neuves");
+  EXPECT_EQ(autre->Longueur(), 8);
+}
+
+TEST_F(DisqueReel, NeTouchePasAUnFichierDontLeNomEstTenuPourDeBon) {
+  dossier.Ecrit("X", "contenu");
+  const HANDLE tenu = ::CreateFileW((dossier.chemin() / "X").c_str(), GENERIC_READ, FILE_SHARE_READ,
+                                    nullptr, OPEN_EXISTING, 0, nullptr);
+  EXPECT_EQ(PanneDe([&] { disque.Supprime("X"); }), Panne::permissionRefusee);
+  EXPECT_EQ(PanneDe([&] { disque.Renomme("X", "Y"); }), Panne::permissionRefusee);
+  ::CloseHandle(tenu);
+  EXPECT_EQ(dossier.Lit("X"), "contenu");
+  EXPECT_EQ(Noms(), std::set<std::string>{"X"});
+}
+
 TEST_F(DisqueReel, GardeLeDossierDontOnVeutOterUnFichier) {
   disque.CreeDossier("D");
   EXPECT_EQ(PanneDe([&] { disque.Supprime("D"); }), Panne::accesFichier);

@@ -104,9 +104,8 @@ TEST_P(MemoireDesNotes, TiennentSurLesTroisOnglets) {
   Tape("ctrl+2", fenetre);
   for (int onglet = 1; onglet <= 5; ++onglet) {
     Tape("ctrl+Next", fenetre);
-    QTest::qWait(unInstant / 4);  // a page is seen before the next one is asked for
+    QTest::qWait(unInstant);  // a page is seen before the next one is asked for
   }
-  QTest::qWait(unInstant);
   AttendPeuDeMemoire();
   EXPECT_EQ(FinitPar("ctrl+q", programme, fenetre), 0);
   EXPECT_THAT(Messages(programme), testing::IsEmpty());
