@@ -7,6 +7,7 @@
 # shellcheck shell=bash
 
 . cmake/outils.sh
+umask 022 # who makes a package may be more private than who installs it
 installe "${paquets_programme[@]}" "${paquets_paquets[@]}"
 
 sortie=${GASTRELLE_PAQUETS:-build/paquets}
@@ -25,14 +26,23 @@ date_sources() {
   git log -1 --format=%ct 2>/dev/null || stat -c %Y CMakeLists.txt
 }
 
+# en_xml TEXT, en_sed TEXT: as it stands in an XML text, and in the second half of a replacement by sed.
+en_xml() { printf '%s' "$1" | sed -e 's/&/\&amp;/g' -e 's/</\&lt;/g' -e 's/>/\&gt;/g'; }
+en_sed() { printf '%s' "$1" | sed 's/[&|\\]/\\&/g'; }
+
 # remplit MODEL: a text of ressources/linux with the version, the date and the addresses in it. A line
 # about the web site is there if there is a site.
 remplit() {
-  local adresse
-  adresse=$(printf '%s' "$site" | sed 's/[&|\\]/\\&/g')
+  local adresse=$site auteur=$responsable
+  if [[ $1 = *.xml ]]; then
+    adresse=$(en_xml "$adresse")
+    auteur=$(en_xml "$auteur")
+  fi
+  adresse=$(en_sed "$adresse")
+  auteur=$(en_sed "$auteur")
   sed -e "s|@VERSION@|$version|g" -e "s|@DATE@|$(date -u -d "@$SOURCE_DATE_EPOCH" +%F)|g" \
     -e "s|@DATE_LONGUE@|$(LC_ALL=C date -u -R -d "@$SOURCE_DATE_EPOCH")|g" \
-    -e "s|@RESPONSABLE@|$responsable|g" -e "s|@IDENTIFIANT@|$identifiant|g" \
+    -e "s|@RESPONSABLE@|$auteur|g" -e "s|@IDENTIFIANT@|$identifiant|g" \
     -e "${adresse:+s|@SITE@|$adresse|g}" -e '/@SITE@/d' "ressources/linux/$1"
 }
 

@@ -4,19 +4,31 @@
 #include <array>
 #include <cstddef>
 #include <filesystem>
+#include <memory>
+#include <set>
 #include <span>
+#include <string>
+#include <string_view>
+#include <system_error>
+#include <utility>
 #include <vector>
 
 #include "plateforme/ErreurExecution.h"
+#include "plateforme/TexteChemin.h"
 
 namespace gastrelle {
 namespace {
 
+namespace fs = std::filesystem;
+
 constexpr int nomsEssayes = 100;
+/// Folders that were made and couldn't be locked: so many aren't others at work, the system has no
+/// locks to give.
+constexpr int sansVerrouAuPlus = 8;
 constexpr std::size_t tailleBloc = 1U << 18U;
 
-std::string Dans(const std::string& dossier, std::string_view nom) {
-  return dossier + "/" + std::string(nom);
+std::string Dans(std::string_view dossier, std::string_view nom) {
+  return std::string(dossier) + "/" + std::string(nom);
 }
 
 /// The folder and the one of its pictures, the inner one first.
@@ -28,9 +40,32 @@ bool Contient(const std::vector<std::string>& noms, const std::string& nom) {
   return std::find(noms.begin(), noms.end(), nom) != noms.end();
 }
 
+/// A folder, and no link to one, that holds plain files of known names and the folder of pictures,
+/// nothing else. What can't be looked at counts as somebody's. The system is asked itself, since
+/// `AccesFichiers` tells of no folder that a folder holds.
+bool EstReste(const AccesFichiers& place, const std::string& nom,
+              const std::set<std::string>& connus) {
+  const fs::path racine = CheminDe(place.CheminEntier(nom));
+  std::error_code erreur;
+  bool reste = fs::symlink_status(racine, erreur).type() == fs::file_type::directory;
+  fs::recursive_directory_iterator entree;
+  if (reste) {
+    entree = fs::recursive_directory_iterator(racine, erreur);
+  }
+  for (; reste && !erreur && entree != fs::recursive_directory_iterator();
+       entree.increment(erreur)) {
+    const std::string feuille = EnUtf8(entree->path().filename());
+    const std::string piece = entree.depth() == 0 ? feuille : Dans(dossierDesImages, feuille);
+    const fs::file_type nature = entree->symlink_status(erreur).type();
+    reste = nature == fs::file_type::directory
+                ? piece == dossierDesImages
+                : nature == fs::file_type::regular && connus.contains(piece);
+  }
+  return reste && !erreur;
+}
+
 std::unique_ptr<Instance> Verrou(const AccesFichiers& place, const std::string& nom) {
-  const std::string chemin = place.CheminEntier(nom);
-  return Instance::Prend(std::filesystem::path(std::u8string(chemin.begin(), chemin.end())));
+  return Instance::Prend(CheminDe(place.CheminEntier(nom)));
 }
 
 }  // namespace
@@ -90,51 +125,35 @@ std::unique_ptr<Instance> Chantier::Devient(const std::string& nom) {
   return std::move(verrou_);
 }
 
-/// Makes the folder and locks it. False where the name is somebody else's.
+/// Makes the folder and locks it. False where the name is somebody else's, or was a moment ago. A
+/// folder without its lock isn't deleted: whoever clears away remains may have been quicker, and
+/// made it anew.
 bool Chantier::PrisPar(const std::string& nom) {
   try {
     place_.CreeDossier(nom);
-  } catch (const ErreurExecution&) {
-    if (!EstLa(nom)) {
+  } catch (const ErreurExecution& erreur) {
+    if (erreur.panne() != Panne::accesFichier && !EstLa(nom)) {
       throw;
     }
     return false;
   }
   verrou_ = Verrou(place_, nom);
-  if (verrou_ == nullptr) {  // whoever clears away remains may have been quicker
-    PasseOutre([&] { place_.SupprimeDossier(nom); });
+  if (verrou_ == nullptr && ++sansVerrou_ == sansVerrouAuPlus) {
+    throw ErreurExecution(Panne::accesFichier);
   }
   return verrou_ != nullptr;
 }
 
-/// A folder, and no link to one, that holds nothing unknown.
-bool Chantier::EstReste(const std::string& nom, const std::set<std::string>& connus) {
-  if (!place_.DossierExiste(nom) || Contient(place_.FichiersDe({}), nom)) {
-    return false;
-  }
-  for (const std::string& dossier : Dossiers(nom)) {
-    if (!place_.DossierExiste(dossier)) {
-      continue;
-    }
-    const std::vector<std::string> fichiers = place_.FichiersDe(dossier);
-    const auto connu = [&](const std::string& fichier) {
-      return connus.contains(Dans(dossier, fichier).substr(nom.size() + 1));
-    };
-    if (!std::all_of(fichiers.begin(), fichiers.end(), connu)) {
-      return false;
-    }
-  }
-  return true;
-}
-
-/// Clears remains of that name. False where they aren't remains, or somebody is at work there.
+/// Clears remains of that name. False where they aren't remains, or somebody is at work there, or
+/// they don't go. What was seen before the lock may have been another's work, since finished.
 bool Chantier::Libere(const std::string& nom, const std::set<std::string>& connus) {
   bool libere = false;
   PasseOutre([&] {
-    const std::unique_ptr<Instance> verrou = EstReste(nom, connus) ? Verrou(place_, nom) : nullptr;
-    if (verrou != nullptr) {
+    const std::unique_ptr<Instance> verrou =
+        EstReste(place_, nom, connus) ? Verrou(place_, nom) : nullptr;
+    if (verrou != nullptr && EstReste(place_, nom, connus)) {
       Efface(nom);
-      libere = true;
+      libere = !EstLa(nom);
     }
   });
   return libere;

@@ -20,8 +20,9 @@ inline constexpr std::string_view dossierDesImages = "IMAGE";
 class Chantier {
  public:
   /// Takes the name `nom` with "~" behind it, then "~2", "~3"... where somebody has that one. A
-  /// folder that holds nothing but `connus`, and in which nobody is at work, is what an interrupted
-  /// filling has left: it is cleared. Links are somebody's, and not followed.
+  /// folder that holds nothing but files `connus` and a folder of pictures, and in which nobody is
+  /// at work, is what an interrupted filling has left: it is cleared. Links are somebody's, and not
+  /// followed.
   Chantier(AccesFichiers& place, const std::string& nom, const std::set<std::string>& connus);
   Chantier(const Chantier&) = delete;
   Chantier& operator=(const Chantier&) = delete;
@@ -39,7 +40,6 @@ class Chantier {
 
  private:
   [[nodiscard]] bool PrisPar(const std::string& nom);
-  [[nodiscard]] bool EstReste(const std::string& nom, const std::set<std::string>& connus);
   [[nodiscard]] bool Libere(const std::string& nom, const std::set<std::string>& connus);
   [[nodiscard]] bool EstLa(const std::string& nom);
   void Efface(const std::string& nom);
@@ -47,6 +47,7 @@ class Chantier {
   AccesFichiers& place_;
   std::string nom_;  // empty once it has become something else
   std::unique_ptr<Instance> verrou_;
+  int sansVerrou_ = 0;
 };
 
 }  // namespace gastrelle

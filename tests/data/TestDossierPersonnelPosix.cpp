@@ -1,13 +1,26 @@
 // The laying of a user's own folder: whole or not at all, whatever fails and whoever else is there.
 
+#include <algorithm>
+#include <atomic>
+#include <cstddef>
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <memory>
+#include <string>
+#include <thread>
+#include <vector>
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "accidents/Accident.h"
+#include "data/Chantier.h"
 #include "data/DossierPersonnel.h"
 #include "doublures/DisqueEssai.h"
 #include "doublures/FabriqueInstallee.h"
 #include "doublures/Pannes.h"
+#include "plateforme/Disque.h"
 
 namespace gastrelle::essai {
 namespace {
@@ -116,6 +129,51 @@ TEST_F(Pose, LaSecondeAArriverLaisseLeDossierDeLaPremiere) {
   AttendEntier();
 }
 
+TEST_F(Pose, SePasseDUnResteQuiNeVeutPasPartir) {
+  fs::create_directory(chezLui.chemin() / "gastrelle~");
+  chezLui.Ecrit("gastrelle~/GLR1.stp", "un reste");
+  place.EchoueSur("enlève gastrelle~", Panne::permissionRefusee);
+  EXPECT_NE(Tente(), nullptr);
+  AttendEntier({{"gastrelle~", "/"}});
+  EXPECT_EQ(std::count(place.journal().begin(), place.journal().end(), "crée gastrelle~"), 1);
+}
+
+/// Somebody else's name is free again before it can be looked at.
+TEST_F(Pose, SePasseDUnNomQuiVientDEtreLibere) {
+  place.EchoueALAppel(1, Panne::accesFichier);
+  EXPECT_NE(Tente(), nullptr);
+  AttendEntier();
+}
+
+/// Again and again, so that every one is overtaken wherever it may stand between the name and the
+/// lock.
+TEST_F(Pose, DeDepartsSimultanesTravailleDansUnDossierParDepart) {
+  constexpr std::size_t departs = 4;
+  constexpr int tours = 1000;
+  std::atomic<int> pannes = 0;
+  const auto travaille = [&] {
+    Disque lesModeles(usine.chemin());
+    Disque laPlace(chezLui.chemin());
+    for (int tour = 0; tour < tours; ++tour) {
+      const bool seul = Reussit([&] {
+        Chantier chantier(laPlace, "gastrelle", {"EDITION"});
+        chantier.Copie(lesModeles, "EDITION");
+        laPlace.Renomme(chantier.De("EDITION"), chantier.De("IMAGE/EDITION"));
+      });
+      pannes += seul ? 0 : 1;
+    }
+  };
+  std::vector<std::thread> fils;
+  for (std::size_t i = 0; i < departs; ++i) {
+    fils.emplace_back(travaille);
+  }
+  for (std::thread& fil : fils) {
+    fil.join();
+  }
+  EXPECT_EQ(pannes, 0);
+  EXPECT_THAT(ContenuDe(chezLui.chemin()), IsEmpty());
+}
+
 TEST_F(Pose, NeToucheNiAUnDossierNiAUnFichierDAutrui) {
   const DossierEssai ailleurs;
   ailleurs.Ecrit("GLR1.stp", "à moi");
@@ -128,6 +186,23 @@ TEST_F(Pose, NeToucheNiAUnDossierNiAUnFichierDAutrui) {
       [](const fs::path& chemin) {
         fs::create_directories(chemin / "IMAGE");
         std::ofstream(chemin / "IMAGE" / "moi.jpg") << "à moi";
+      },
+      [](const fs::path& chemin) {
+        fs::create_directories(chemin / "IMAGE");
+        fs::create_directory(chemin / "lettres");
+        std::ofstream(chemin / "GLR1.stp") << "à moi";
+      },
+      [](const fs::path& chemin) {
+        fs::create_directories(chemin / "IMAGE" / "agneau.jpg");
+        std::ofstream(chemin / "GLR1.stp") << "à moi";
+      },
+      [](const fs::path& chemin) {
+        fs::create_directories(chemin / "GLR2.stp");
+        std::ofstream(chemin / "GLR1.stp") << "à moi";
+      },
+      [&](const fs::path& chemin) {
+        fs::create_directory(chemin);
+        fs::create_symlink(ailleurs.chemin() / "GLR1.stp", chemin / "GLR1.stp");
       },
       [&](const fs::path& chemin) { fs::create_directory_symlink(ailleurs.chemin(), chemin); },
       [](const fs::path& chemin) { fs::create_symlink("/nulle/part", chemin); },

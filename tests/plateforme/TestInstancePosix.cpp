@@ -1,8 +1,12 @@
 // One running program for each folder, whatever becomes of the others.
 
+#include <atomic>
 #include <fcntl.h>
+#include <filesystem>
 #include <sys/file.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
+#include <thread>
 #include <unistd.h>
 
 #include <gtest/gtest.h>
@@ -33,6 +37,32 @@ TEST(Instance, RespecteLeVerrouDUnAutreSurLeDossier) {
   EXPECT_EQ(Instance::Prend(dossier.chemin()), nullptr);
   ::close(numero);
   EXPECT_NE(Instance::Prend(dossier.chemin()), nullptr);
+}
+
+/// Each makes the folder, and deletes it once it has its lock: whoever has opened it before then
+/// locks what is gone, and must not take that for the folder which somebody has made since.
+TEST(Instance, NeVautRienSurUnDossierRefaitEntreTemps) {
+  constexpr int tours = 4000;
+  const DossierEssai place;
+  const std::filesystem::path dispute = place.chemin() / "dispute";
+  std::atomic<int> obtenus = 0;
+  std::atomic<int> trompes = 0;
+  const auto dispose = [&] {
+    for (int tour = 0; tour < tours; ++tour) {
+      ::mkdir(dispute.c_str(), S_IRWXU);
+      if (const auto verrou = Instance::Prend(dispute); verrou != nullptr) {
+        ++obtenus;
+        trompes += ::mkdir((dispute / "mien").c_str(), S_IRWXU) == 0 ? 0 : 1;
+        ::rmdir((dispute / "mien").c_str());
+        ::rmdir(dispute.c_str());
+      }
+    }
+  };
+  std::thread autre(dispose);
+  dispose();
+  autre.join();
+  EXPECT_GT(obtenus, 0);
+  EXPECT_EQ(trompes, 0);
 }
 
 }  // namespace
