@@ -3,14 +3,14 @@
 #include <utility>
 
 #include <QHelpEvent>
-#include <QLabel>
-#include <QLineEdit>
 #include <QPointer>
 #include <QTabBar>
 #include <QTest>
 #include <QTimer>
 #include <QToolTip>
 #include <QWheelEvent>
+
+#include "doublures/Lettres.h"
 
 namespace gastrelle::essai {
 namespace {
@@ -83,13 +83,7 @@ void CliqueOnglet(const QWidget& fenetre, int onglet) {
 
 void Tape(QWidget& boite, const QString& texte) {
   ASSERT_TRUE(boite.isEnabled()) << boite.objectName().toStdString();
-  for (const QChar c : texte) {
-    if (c == u'\n') {
-      QTest::keyClick(&boite, Qt::Key_Return);
-    } else {
-      QTest::sendKeyEvent(QTest::Click, &boite, Qt::Key_unknown, QString(c), Qt::NoModifier);
-    }
-  }
+  FrappeTexte(boite, texte);
 }
 
 void Remplace(QWidget& boite, const QString& texte) {
@@ -150,19 +144,7 @@ void AvecDialogue(const std::function<void()>& ouvre,
 }
 
 QString Texte(const QWidget& controle) {
-  if (const auto* zone = qobject_cast<const QPlainTextEdit*>(&controle)) {
-    return zone->document()->toRawText().replace(QChar::ParagraphSeparator, QChar(u'\n'));
-  }
-  if (const auto* ligne = qobject_cast<const QLineEdit*>(&controle)) {
-    return ligne->text();
-  }
-  if (const auto* etiquette = qobject_cast<const QLabel*>(&controle)) {
-    return etiquette->text();
-  }
-  if (const auto* liste = qobject_cast<const QComboBox*>(&controle)) {
-    return liste->currentText();
-  }
-  return controle.property("text").toString();
+  return TexteVu(controle).value_or(controle.property("text").toString());
 }
 
 QString Fr(std::string_view utf8) {

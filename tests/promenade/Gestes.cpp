@@ -4,13 +4,11 @@
 #include <QAbstractItemView>
 #include <QAction>
 #include <QApplication>
-#include <QLabel>
-#include <QLineEdit>
 #include <QMenuBar>
-#include <QPlainTextEdit>
 #include <QTabBar>
 #include <QTest>
-#include <QTextDocument>
+
+#include "doublures/Lettres.h"
 
 namespace gastrelle::essai {
 namespace {
@@ -108,13 +106,7 @@ void Frappe(QWidget& controle, Qt::Key touche, Qt::KeyboardModifiers avec) {
 
 void Tape(QWidget& boite, const QString& texte) {
   Exige(boite);
-  for (const QChar lettre : texte) {
-    if (lettre == u'\n') {
-      QTest::keyClick(&boite, Qt::Key_Return);
-    } else {
-      QTest::sendKeyEvent(QTest::Click, &boite, Qt::Key_unknown, QString(lettre), Qt::NoModifier);
-    }
-  }
+  FrappeTexte(boite, texte);
 }
 
 void Remplace(QWidget& boite, const QString& texte) {
@@ -166,17 +158,8 @@ void Repond(const QString& bouton) {
 }
 
 QString Lu(const QWidget& controle) {
-  if (const auto* zone = qobject_cast<const QPlainTextEdit*>(&controle)) {
-    return zone->document()->toRawText().replace(QChar::ParagraphSeparator, QChar(u'\n'));
-  }
-  if (const auto* ligne = qobject_cast<const QLineEdit*>(&controle)) {
-    return ligne->text();
-  }
-  if (const auto* etiquette = qobject_cast<const QLabel*>(&controle)) {
-    return etiquette->text();
-  }
-  if (const auto* liste = qobject_cast<const QComboBox*>(&controle)) {
-    return liste->currentText();
+  if (auto texte = TexteVu(controle)) {
+    return *texte;
   }
   throw GesteImpossible(controle.objectName() + QStringLiteral(" n'a pas de texte"));
 }
