@@ -3,9 +3,12 @@
 #include <algorithm>
 
 #include <QApplication>
+#include <QImage>
 #include <QKeyEvent>
+#include <QPainter>
 #include <QTextBlock>
 #include <QTextCursor>
+#include <QTextLayout>
 
 #include "controles/Conversion.h"
 #include "controles/MemoireTexte.h"
@@ -45,6 +48,15 @@ qsizetype LongueurRangee(const QString& passage) {
   return passage.size() + passage.count(QChar::ParagraphSeparator);
 }
 
+/// Lets go of the broken line that was reckoned for the place of the cursor, thirty-five bytes a
+/// letter: the toolkit keeps it until the line is drawn, which in a hidden box is never.
+void OublieLaLigneCoupee(const QTextCursor& curseur) {
+  const QRectF auDessus(0, -2, 1, 1);  // no line is there
+  QImage ailleurs(1, 1, QImage::Format_Mono);
+  QPainter peintre(&ailleurs);
+  curseur.block().layout()->draw(&peintre, {}, {}, auDessus);
+}
+
 }  // namespace
 
 ZoneTexte::ZoneTexte(const QString& nom, int limite, QWidget* parent)
@@ -70,6 +82,7 @@ void ZoneTexte::PoseTexte(std::string_view texte) {
                                           : QTextOption::WrapAtWordBoundaryOrAnywhere);
   setPlainText(Montrable(texte));
   parCode_ = false;
+  OublieLaLigneCoupee(textCursor());
 }
 
 void ZoneTexte::CoupeLesLignes(QTextOption::WrapMode ou) {
@@ -117,6 +130,11 @@ void ZoneTexte::keyPressEvent(QKeyEvent* touche) {
   if (corrigee) {
     saisie.endEditBlock();
   }
+}
+
+void ZoneTexte::hideEvent(QHideEvent* evenement) {
+  QPlainTextEdit::hideEvent(evenement);
+  OublieLaLigneCoupee(textCursor());
 }
 
 void ZoneTexte::Corrige() {

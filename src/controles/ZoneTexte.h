@@ -37,6 +37,7 @@ class ZoneTexte : public QPlainTextEdit {
 
  protected:
   void keyPressEvent(QKeyEvent* touche) override;
+  void hideEvent(QHideEvent* evenement) override;
 
  private:
   void CoupeLesLignes(QTextOption::WrapMode ou);

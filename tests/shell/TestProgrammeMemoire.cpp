@@ -1,6 +1,7 @@
 // What damaged data files make the program hold in memory: never more than they are worth.
 
 #include <filesystem>
+#include <utility>
 
 #include <gmock/gmock.h>
 
@@ -62,7 +63,17 @@ class MemoireDuProgramme : public ProgrammeEssai {
     EXPECT_LT(PlusDeMemoire(programme), permise);
 #endif
   }
-  /// A key in the program's window, and time for what it does.
+  /// Waits until the program asks for no more.
+  void AttendQuElleNeGrandissePlus() {
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&, avant = qint64{0}]() mutable {
+          QTest::qWait(unInstant);
+          const qint64 maintenant = PlusDeMemoire(programme);
+          return std::exchange(avant, maintenant) == maintenant;
+        },
+        patience));
+  }
+  /// A key in the program's window.
   void Tape(const char* touche, const QString& fenetre) {
     Outil({"windowfocus", "--sync", fenetre});
     Outil({"key", touche});
@@ -103,9 +114,9 @@ TEST_P(MemoireDesNotes, TiennentSurLesTroisOnglets) {
   const QString fenetre = FenetreDe(programme);
   Tape("ctrl+2", fenetre);
   for (int onglet = 1; onglet <= 5; ++onglet) {
-    Tape("ctrl+Next", fenetre);
-    QTest::qWait(unInstant);  // a page is seen before the next one is asked for
+    Tape("ctrl+Next", fenetre);  // faster than the pages are drawn
   }
+  AttendQuElleNeGrandissePlus();
   AttendPeuDeMemoire();
   EXPECT_EQ(FinitPar("ctrl+q", programme, fenetre), 0);
   EXPECT_THAT(Messages(programme), testing::IsEmpty());
