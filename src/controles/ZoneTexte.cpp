@@ -82,7 +82,6 @@ void ZoneTexte::PoseTexte(std::string_view texte) {
                                           : QTextOption::WrapAtWordBoundaryOrAnywhere);
   setPlainText(Montrable(texte));
   parCode_ = false;
-  OublieLaLigneCoupee(textCursor());
 }
 
 void ZoneTexte::CoupeLesLignes(QTextOption::WrapMode ou) {
